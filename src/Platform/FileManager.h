@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <optional>
+
+#include "Models/Date.h"
+
+namespace lanternix {
+
+/// Files and directories. Every operation is synchronous; none throws.
+class FileManager {
+ public:
+  virtual ~FileManager() = default;
+
+  /// The directory in which programs keep the user's data, or empty when the system names none.
+  virtual QString applicationSupportDirectory() const = 0;
+
+  /// Creates \p path with all its parents. True when the directory is there afterwards.
+  virtual bool createDirectory(const QString &path) = 0;
+
+  /// The whole file, or none when it cannot be read.
+  virtual std::optional<QByteArray> contents(const QString &path) const = 0;
+
+  /// Replaces the file at \p path by \p bytes in one step and sees both the data and the directory
+  /// entry onto the disk. A link at \p path stays a link, an existing file keeps its mode. False,
+  /// with the old file as it was and no temporary file left, when that fails.
+  virtual bool writeAtomically(QByteArrayView bytes, const QString &path) = 0;
+
+  /// The names of the entries of a directory, without the hidden ones, in the system's order; none
+  /// when it cannot be listed.
+  virtual std::optional<QStringList> contentsOfDirectory(const QString &path) const = 0;
+
+  /// When the file at \p path was created: its birth time, its modification time where the file
+  /// system keeps none. None when the file cannot be examined.
+  virtual std::optional<Date> creationDate(const QString &path) const = 0;
+
+  /// Removes a file. False when it is still there afterwards.
+  virtual bool removeItem(const QString &path) = 0;
+};
+
+}  // namespace lanternix

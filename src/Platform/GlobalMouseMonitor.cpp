@@ -1,0 +1,7 @@
+#include "Platform/GlobalMouseMonitor.h"
+
+namespace lanternix {
+
+void NullGlobalMouseMonitor::setActive(bool /*active*/) {}
+
+}  // namespace lanternix

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QtCore/QtGlobal>
+#include <optional>
+#include <span>
+
+namespace lanternix {
+
+/// The one table between virtual key codes, which shortcuts are stored with, evdev codes, which are
+/// positions on the keyboard, and X key symbols, which are meanings.
+namespace KeyCodes {
+
+/// Virtual key codes that the program itself asks for.
+enum VirtualKey : quint32 {
+  returnKey = 36,
+  comma = 43,
+  space = 49,
+  escape = 53,
+  downArrow = 125,
+  upArrow = 126,
+};
+
+/// How a key is found on the present keyboard.
+struct Key {
+  quint32 virtualCode;
+  /// Position: the evdev code (an X key code less 8).
+  quint32 evdevCode;
+  /// The key symbol of a named key (Escape, Return, arrows ...), which is followed wherever the
+  /// user has put it; 0 for a character key, which goes by its position whatever the layout.
+  quint32 keySymbol;
+};
+
+/// Every key of the table.
+std::span<const Key> allKeys();
+
+/// The key with this virtual code; none for a code that no key has.
+std::optional<Key> keyForVirtualCode(quint32 virtualCode);
+
+/// The virtual code of a key press: by its symbol when that is a named key's, else by its position.
+/// \p nativeScanCode is the X key code, \p keySymbol the X key symbol. None for unknown keys and for
+/// a position whose named key the user has put elsewhere.
+std::optional<quint32> virtualCodeForPress(quint32 nativeScanCode, quint32 keySymbol);
+
+}  // namespace KeyCodes
+
+}  // namespace lanternix

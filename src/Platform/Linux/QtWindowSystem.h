@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Platform/WindowSystem.h"
+
+namespace lanternix {
+
+/// What Qt itself can do on any window system: used where no better door is at hand.
+class QtWindowSystem : public WindowSystem {
+ public:
+  QScreen *activeScreen() const override;
+  void preparePanel(QWindow &window) override;
+  void activate(QWindow &window) override;
+};
+
+}  // namespace lanternix

@@ -1,0 +1,1 @@
+#include "Platform/SingleInstance.h"  // compiled for its meta object

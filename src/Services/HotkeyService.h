@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <functional>
+
+#include "Services/HotkeyShortcut.h"
+
+namespace lanternix {
+
+class HotkeyRegistrar;
+class UserDefaults;
+
+/// The global shortcut: loads it, registers it with the system, stores and registers it anew
+/// whenever it is assigned, and calls `onToggle` once per press. No operation reports an error.
+class HotkeyService : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Loads the stored shortcut, or the default when nothing valid is stored, and registers it.
+  /// Writes nothing.
+  HotkeyService(UserDefaults &userDefaults, HotkeyRegistrar &registrar, QObject *parent = nullptr);
+  ~HotkeyService() override;
+
+  /// The shortcut in force, also while its registration is refused.
+  HotkeyShortcut currentShortcut() const { return m_currentShortcut; }
+
+  /// Stores \p shortcut, releases the old registration, then registers the new one, also when both
+  /// are equal. When the system refuses it, no hotkey is active until the next assignment.
+  void setCurrentShortcut(const HotkeyShortcut &shortcut);
+
+  /// Whether the system delivers presses of the current shortcut.
+  bool isRegistered() const { return m_registered; }
+
+  /// Called once per press, from the event loop and never inside the system's event callback.
+  /// A press while it is empty has no effect.
+  std::function<void()> onToggle;
+
+ Q_SIGNALS:
+  /// The value has changed.
+  void currentShortcutChanged();
+
+ private:
+  void registerShortcut();
+  void toggle();
+
+  UserDefaults &m_userDefaults;
+  HotkeyRegistrar &m_registrar;
+  HotkeyShortcut m_currentShortcut;
+  bool m_registered = false;
+};
+
+}  // namespace lanternix

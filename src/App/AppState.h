@@ -93,10 +93,6 @@ class AppState : public QObject {
   QList<PathItem> itemsForGroup(const QUuid &groupId) const;
   /// The five items opened last, newest first, whatever the query.
   QList<PathItem> recentItems() const;
-  QList<qsizetype> recentItemIndexes() const;
-  QList<qsizetype> filteredGroupIndexes() const;
-  QList<qsizetype> itemIndexesForGroup(const QUuid &groupId) const;
-  qsizetype itemCount(const QUuid &groupId) const;
 
   // --- Selection --------------------------------------------------------------------------------
 

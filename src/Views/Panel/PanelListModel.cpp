@@ -8,6 +8,28 @@ using namespace Qt::StringLiterals;
 
 namespace lanternix {
 
+namespace {
+
+// Between a change of the store and the news of it a row may point past the end.
+template <typename Element>
+const Element *elementAt(const QList<Element> &list, qsizetype position) {
+  return position >= 0 && position < list.size() ? &list[position] : nullptr;
+}
+
+// What a row says that shows no item and no group.
+QString fixedText(PanelRow::Kind kind) {
+  switch (kind) {
+    case PanelRow::Kind::recentHeader:
+      return u"Recently Opened"_s;
+    case PanelRow::Kind::emptyGroup:
+      return u"No items in this group"_s;
+    default:
+      return {};
+  }
+}
+
+}  // namespace
+
 PanelListModel::PanelListModel(AppState &appState, QObject *parent)
     : QAbstractListModel(parent), m_appState(appState) {
   connect(&appState, &AppState::groupsChanged, this, &PanelListModel::rebuild);
@@ -25,15 +47,14 @@ const PathItem *PanelListModel::itemAt(qsizetype row) const {
   if (row < 0 || row >= m_rows.size() || m_rows[row].kind != PanelRow::Kind::item) {
     return nullptr;
   }
-  return &m_appState.items()[m_rows[row].index];
+  return elementAt(m_appState.items(), m_rows[row].position);
 }
 
 const PathGroup *PanelListModel::groupAt(qsizetype row) const {
-  if (row < 0 || row >= m_rows.size() || m_rows[row].index < 0 ||
-      m_rows[row].kind == PanelRow::Kind::item) {
+  if (row < 0 || row >= m_rows.size() || m_rows[row].kind == PanelRow::Kind::item) {
     return nullptr;
   }
-  return &m_appState.groups()[m_rows[row].index];
+  return elementAt(m_appState.groups(), m_rows[row].position);
 }
 
 qsizetype PanelListModel::rowOfItem(const QUuid &id) const {
@@ -55,13 +76,17 @@ QVariant PanelListModel::data(const QModelIndex &index, int role) const {
   const PathGroup *group = groupAt(index.row());
   switch (role) {
     case Qt::DisplayRole:
-      return title(row);
+      return item != nullptr                                               ? item->name
+             : row.kind == PanelRow::Kind::groupHeader && group != nullptr ? group->name
+                                                                           : fixedText(row.kind);
     case KindRole:
       return static_cast<int>(row.kind);
     case IdRole:
       return item != nullptr ? item->id : group != nullptr ? group->id : QUuid();
     case CountRole:
-      return group == nullptr ? QVariant() : QVariant(m_appState.itemCount(group->id));
+      return group == nullptr ? QVariant()
+                              : QVariant::fromValue<qlonglong>(
+                                    std::ssize(m_appState.itemPositionsForGroup(group->id)));
     case ExpandedRole:
       return group == nullptr ? QVariant() : QVariant(group->isExpanded);
     default:
@@ -78,22 +103,6 @@ QHash<int, QByteArray> PanelListModel::roleNames() const {
   return names;
 }
 
-QString PanelListModel::title(const PanelRow &row) const {
-  switch (row.kind) {
-    case PanelRow::Kind::recentHeader:
-      return u"Recently Opened"_s;
-    case PanelRow::Kind::item:
-      return m_appState.items()[row.index].name;
-    case PanelRow::Kind::groupHeader:
-      return m_appState.groups()[row.index].name;
-    case PanelRow::Kind::emptyGroup:
-      return u"No items in this group"_s;
-    case PanelRow::Kind::divider:
-      break;
-  }
-  return {};
-}
-
 void PanelListModel::rebuild() {
   beginResetModel();
   m_rows = recentRows() + groupRows();
@@ -104,13 +113,13 @@ QList<PanelRow> PanelListModel::recentRows() const {
   if (!m_appState.showRecentItems() || !m_appState.searchQuery().isEmpty()) {
     return {};
   }
-  const QList<qsizetype> indexes = m_appState.recentItemIndexes();
-  if (indexes.isEmpty()) {
+  const std::span<const qsizetype> positions = m_appState.recentItemPositions();
+  if (positions.empty()) {
     return {};
   }
   QList<PanelRow> rows{{PanelRow::Kind::recentHeader}};
-  for (const qsizetype index : indexes) {
-    rows.append({PanelRow::Kind::item, index});
+  for (const qsizetype position : positions) {
+    rows.append({PanelRow::Kind::item, position});
   }
   rows.append({PanelRow::Kind::divider});
   return rows;
@@ -118,18 +127,18 @@ QList<PanelRow> PanelListModel::recentRows() const {
 
 QList<PanelRow> PanelListModel::groupRows() const {
   QList<PanelRow> rows;
-  for (const qsizetype groupIndex : m_appState.filteredGroupIndexes()) {
-    const PathGroup &group = m_appState.groups()[groupIndex];
-    rows.append({PanelRow::Kind::groupHeader, groupIndex});
+  for (const qsizetype groupPosition : m_appState.filteredGroupPositions()) {
+    const PathGroup &group = m_appState.groups()[groupPosition];
+    rows.append({PanelRow::Kind::groupHeader, groupPosition});
     if (!group.isExpanded) {
       continue;
     }
-    const QList<qsizetype> itemIndexes = m_appState.itemIndexesForGroup(group.id);
-    if (itemIndexes.isEmpty()) {
-      rows.append({PanelRow::Kind::emptyGroup, groupIndex, false});
+    const std::span<const qsizetype> itemPositions = m_appState.itemPositionsForGroup(group.id);
+    if (itemPositions.empty()) {
+      rows.append({PanelRow::Kind::emptyGroup, groupPosition, false});
     }
-    for (const qsizetype itemIndex : itemIndexes) {
-      rows.append({PanelRow::Kind::item, itemIndex, false});
+    for (const qsizetype itemPosition : itemPositions) {
+      rows.append({PanelRow::Kind::item, itemPosition, false});
     }
   }
   return rows;

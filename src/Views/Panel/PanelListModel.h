@@ -45,7 +45,6 @@ class PanelListModel : public QAbstractListModel {
   void rebuild();
   QList<PanelRow> recentRows() const;
   QList<PanelRow> groupRows() const;
-  QString title(const PanelRow &row) const;
 
   AppState &m_appState;
   QList<PanelRow> m_rows;

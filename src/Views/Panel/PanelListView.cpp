@@ -9,7 +9,7 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QScrollBar>
 
-#include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -141,7 +141,8 @@ void PanelListView::paintRow(QPainter &painter, qsizetype row) const {
       paintDivider(painter, area);
       break;
     case PanelRow::Kind::groupHeader:
-      m_groupSection.paintHeader(painter, palette(), area, *group, m_appState.itemCount(group->id));
+      m_groupSection.paintHeader(painter, palette(), area, *group,
+                                 std::ssize(m_appState.itemPositionsForGroup(group->id)));
       break;
     case PanelRow::Kind::emptyGroup:
       m_groupSection.paintEmpty(painter, palette(), area);

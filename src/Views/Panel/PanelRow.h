@@ -17,7 +17,7 @@ struct PanelRow {
   Kind kind;
   /// Where in AppState::items() (item) or AppState::groups() (groupHeader, emptyGroup) the row's
   /// value stands; -1 for the others.
-  qsizetype index = -1;
+  qsizetype position = -1;
   /// Whether the row stands by itself in the list, set off from what is above it. The rows of a
   /// group below its header do not.
   bool startsSection = true;

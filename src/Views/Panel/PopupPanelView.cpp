@@ -88,9 +88,9 @@ QWidget *PopupPanelView::makeMessages() {
 void PopupPanelView::updateMessages() {
   // Two tests of their own: a search that finds nothing while no recent items are on show leaves
   // both messages, one above the other.
-  const bool nothingFiltered = m_appState.filteredGroupIndexes().isEmpty();
+  const bool nothingFiltered = m_appState.filteredGroupPositions().empty();
   const bool showsRecent =
-      m_appState.showRecentItems() && !m_appState.recentItemIndexes().isEmpty();
+      m_appState.showRecentItems() && !m_appState.recentItemPositions().empty();
   const bool empty = nothingFiltered && !showsRecent;
   const bool noResults = nothingFiltered && !m_appState.searchQuery().isEmpty();
   m_emptyState->setVisible(empty);

@@ -10,12 +10,19 @@
 
 using namespace Qt::StringLiterals;
 
+// The linker drops the drawings from a static library unless something asks for them. The macro has
+// to stand outside every namespace.
+static void initResources() {
+  Q_INIT_RESOURCE(resources);
+}
+
 namespace lanternix::Symbol {
 
 namespace {
 
 // A name comes from the user's data: only plain file names may reach the resources.
 QString resourcePath(const QString &name) {
+  [[maybe_unused]] static const bool ready = (initResources(), true);
   const QString path = u":/symbols/"_s + name + u".svg"_s;
   return name.contains(u'/') || !QFile::exists(path) ? u":/symbols/folder.svg"_s : path;
 }

@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 
 namespace lanternix {
 
@@ -14,7 +15,14 @@ using namespace Qt::StringLiterals;
 
 ChildProcess::ChildProcess(QString program, QString debianPackage)
     : m_program(std::move(program)), m_debianPackage(std::move(debianPackage)) {
-  m_process.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+  m_process.setChildProcessModifier([this] {
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (!m_mayWriteFiles) {
+      const rlimit none{0, 0};
+      ::setrlimit(RLIMIT_FSIZE, &none);
+      ::signal(SIGXFSZ, SIG_IGN);  // NOLINT(cert-err33-c): the write fails instead of killing
+    }
+  });
 }
 
 ChildProcess::~ChildProcess() {
@@ -44,6 +52,11 @@ void ChildProcess::stop() {
     m_process.kill();
     m_process.waitForFinished(graceMilliseconds);
   }
+}
+
+void ChildProcess::kill() {
+  m_process.kill();
+  m_process.waitForFinished();
 }
 
 bool ChildProcess::isRunning() const {

@@ -17,11 +17,18 @@ class ChildProcess {
   ~ChildProcess();
   Q_DISABLE_COPY_MOVE(ChildProcess)
 
+  /// From its start on, lets every write to a file fail, as on a full disk. Directories can still
+  /// be made.
+  void forbidFileWrites() { m_mayWriteFiles = false; }
+
   /// Starts the program. Throws when it cannot be started.
   void start(const QStringList &arguments, const QProcessEnvironment &environment);
 
   /// Asks it to end (SIGTERM), then makes it. Harmless when it is not running.
   void stop();
+
+  /// Ends it without a chance to put anything in order (SIGKILL).
+  void kill();
 
   bool isRunning() const;
   qint64 processId() const { return m_process.processId(); }
@@ -37,6 +44,7 @@ class ChildProcess {
  private:
   QString m_program;
   QString m_debianPackage;
+  bool m_mayWriteFiles = true;
   QProcess m_process;
   QByteArray m_output;
   QByteArray m_errors;

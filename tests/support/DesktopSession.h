@@ -23,6 +23,7 @@ class DesktopSession {
                           WithBus withBus = WithBus::yes);
 
   ProgramEnvironment &home() { return m_home; }
+  const ProgramEnvironment &home() const { return m_home; }
   InputDriver &input() { return m_input; }
   WindowProbe &windows() { return m_windows; }
   const QString &displayName() const { return m_display.name(); }

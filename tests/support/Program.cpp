@@ -8,8 +8,11 @@ namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
-Program::Program(DesktopSession &session)
+Program::Program(DesktopSession &session, Disk disk)
     : m_session(session), m_process(QStringLiteral(LANTERNIX_PROGRAM), u"lanternix"_s) {
+  if (disk == Disk::full) {
+    m_process.forbidFileWrites();
+  }
   m_process.start({}, session.variables());
 }
 

@@ -12,8 +12,10 @@ class DesktopSession;
 /// The built program, running in a session.
 class Program {
  public:
+  enum class Disk { writable, full };
+
   /// Starts it; no window need be there yet.
-  explicit Program(DesktopSession &session);
+  explicit Program(DesktopSession &session, Disk disk = Disk::writable);
 
   /// Returns once the panel is on the screen and has the keyboard.
   void waitForPanel();
@@ -28,6 +30,8 @@ class Program {
   std::optional<int> exitCode() const { return m_process.exitCode(); }
   /// Ends it as the end of a session would.
   void terminate() { m_process.stop(); }
+  /// Ends it as a crash would.
+  void kill() { m_process.kill(); }
 
   const QByteArray &output() { return m_process.output(); }
   const QByteArray &errors() { return m_process.errors(); }

@@ -6,7 +6,6 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QSettings>
 
 namespace lanternix {
 
@@ -38,7 +37,7 @@ ProgramEnvironment::ProgramEnvironment() {
   m_variables.insert(u"XDG_CONFIG_DIRS"_s, path(u"etc"_s));
   // The system's fonts and file types, and no more than those.
   m_variables.insert(u"XDG_DATA_DIRS"_s, u"/usr/share"_s);
-  // A failed assertion of a library shall end the program where a test sees it.
+  // Files are files here: no daemon of a desktop stands between.
   m_variables.insert(u"GIO_USE_VFS"_s, u"local"_s);
   // Settings of the sanitizers, where the program is built with them.
   for (const char *name : {"ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"}) {
@@ -81,11 +80,14 @@ void ProgramEnvironment::writePreferences(const QByteArray &lines) {
 }
 
 std::optional<QString> ProgramEnvironment::preference(const QString &key) const {
-  const QSettings settings(preferencesFile(), QSettings::IniFormat);
-  if (!settings.contains(key)) {
-    return std::nullopt;
+  const QStringList lines =
+      QString::fromUtf8(read(preferencesFile()).value_or(QByteArray())).split(u'\n');
+  for (const QString &line : lines) {
+    if (line.startsWith(key + u'=')) {
+      return line.mid(key.size() + 1);
+    }
   }
-  return settings.value(key).toString();
+  return std::nullopt;
 }
 
 QJsonObject ProgramEnvironment::data() const {

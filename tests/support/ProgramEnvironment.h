@@ -33,7 +33,7 @@ class ProgramEnvironment {
 
   /// Writes the lines of the "[General]" section of the preferences, such as "panelWidth=820".
   void writePreferences(const QByteArray &lines);
-  /// The value of one preference as it stands in the file; none when it is absent.
+  /// The value of one preference as it is written in the file; none when it is absent.
   std::optional<QString> preference(const QString &key) const;
 
   /// The data file as it stands. An empty object when it is missing or no JSON.

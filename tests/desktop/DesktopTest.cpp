@@ -1,0 +1,133 @@
+#include "desktop/DesktopTest.h"
+
+#include <QtCore/QFile>
+
+#include <X11/keysym.h>
+
+namespace lanternix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QRect difference(const QImage &before, const QImage &after, const QRect &area) {
+  QRect changed;
+  const QRect common = area & before.rect() & after.rect();
+  for (int y = common.top(); y <= common.bottom(); ++y) {
+    for (int x = common.left(); x <= common.right(); ++x) {
+      if (before.pixel(x, y) != after.pixel(x, y)) {
+        changed |= QRect(x, y, 1, 1);
+      }
+    }
+  }
+  return changed;
+}
+
+}  // namespace
+
+DesktopTest::DesktopTest(DesktopSession::WithManager withManager, DesktopSession::WithBus withBus)
+    : m_session(withManager, withBus) {}
+
+void DesktopTest::start(const SampleGroups &groups) {
+  ProgramEnvironment::write(m_session.home().dataFile(), groups.json());
+  start();
+}
+
+void DesktopTest::start(Program::Disk disk) {
+  m_program = std::make_unique<Program>(m_session, disk);
+  m_program->waitForPanel();
+}
+
+void DesktopTest::startHidden(const SampleGroups &groups) {
+  start(groups);
+  input().tap(XK_Escape);
+  require(u"the panel to hide"_s, [this] { return !isShown(); });
+}
+
+void DesktopTest::pressShortcut() {
+  input().tap(XK_space, {XK_Super_L, XK_Shift_L});
+}
+
+void DesktopTest::showByShortcut() {
+  pressShortcut();
+  m_program->waitForPanel();
+}
+
+bool DesktopTest::becomesShown() {
+  return waitUntil([this] { return isShown(); });
+}
+
+bool DesktopTest::becomesHidden() {
+  return waitUntil([this] { return !isShown(); });
+}
+
+QRect DesktopTest::panelGeometry() {
+  return m_session.windows().geometry(m_program->panel());
+}
+
+QString DesktopTest::marking(const QString &name) const {
+  return u"mkdir '%1'"_s.arg(m_session.home().path(u"marks-"_s + name));
+}
+
+bool DesktopTest::becomesMarked(const QString &name) const {
+  return waitUntil([&] { return isMarked(name); });
+}
+
+bool DesktopTest::isMarked(const QString &name) const {
+  return QFile::exists(m_session.home().path(u"marks-"_s + name));
+}
+
+SampleGroups DesktopTest::commands(const QStringList &names) const {
+  SampleGroups groups;
+  groups.group(u"Commands"_s);
+  for (const QString &name : names) {
+    groups.command(name, marking(name));
+  }
+  return groups;
+}
+
+QPoint DesktopTest::onPanel(QPoint point) {
+  return panelGeometry().topLeft() + point;
+}
+
+QRect DesktopTest::changedArea(const QImage &before, const QRect &area) {
+  QRect changed;
+  require(u"the picture to change"_s, [&] {
+    // The same twice, because a repaint may arrive in pieces.
+    const QRect now = difference(before, picture(), area);
+    return std::exchange(changed, now) == now && !now.isEmpty();
+  });
+  return changed;
+}
+
+QRect DesktopTest::selectNextRow() {
+  // The list lies below the search row, whose caret blinks.
+  constexpr int listTop = 90;
+  const QImage before = picture();
+  input().tap(XK_Down);
+  return changedArea(before, before.rect().adjusted(0, listTop, 0, 0));
+}
+
+void DesktopTest::dragPanel(QPoint from, QPoint to) {
+  const QRect start = panelGeometry();
+  input().moveTo(from);
+  input().pressButton();
+  // The window manager takes the drag over at some point after its first steps; only then may the
+  // button go up.
+  int step = 0;
+  require(u"the panel to follow the pointer"_s, [&] {
+    constexpr int steps = 20;
+    step = step % steps + 1;
+    input().moveTo(from + (to - from) * step / steps);
+    return panelGeometry() != start;
+  });
+  input().moveTo(to);
+  QRect last;
+  require(u"the panel to come to rest"_s, [&] {
+    const QRect now = panelGeometry();
+    return std::exchange(last, now) == now && now != start;
+  });
+  input().releaseButton();
+}
+
+}  // namespace lanternix

@@ -1,0 +1,116 @@
+#include "support/InputDriver.h"
+
+#include "support/HarnessError.h"
+
+#include <X11/keysym.h>
+#include <xcb/xtest.h>
+
+namespace lanternix {
+
+using namespace Qt::StringLiterals;
+
+InputDriver::InputDriver(const QString &displayName) : m_connection(displayName) {
+  const XReply<xcb_test_get_version_reply_t> reply(
+      xcb_test_get_version_reply(m_connection, xcb_test_get_version(m_connection, 2, 2), nullptr));
+  if (!reply) {
+    throw HarnessError(u"the display has no XTest extension"_s);
+  }
+  refreshKeyboard();
+}
+
+InputDriver::~InputDriver() {
+  while (!m_heldKeys.isEmpty()) {
+    send(XCB_KEY_RELEASE, m_heldKeys.takeLast());
+  }
+  while (!m_heldButtons.isEmpty()) {
+    send(XCB_BUTTON_RELEASE, m_heldButtons.takeLast());
+  }
+}
+
+void InputDriver::refreshKeyboard() {
+  m_symbols.reset(xcb_key_symbols_alloc(m_connection));
+}
+
+void InputDriver::press(xcb_keysym_t key) {
+  const xcb_keycode_t code = positionOf(key).code;
+  m_heldKeys.append(code);
+  send(XCB_KEY_PRESS, code);
+}
+
+void InputDriver::release(xcb_keysym_t key) {
+  const xcb_keycode_t code = positionOf(key).code;
+  m_heldKeys.removeOne(code);
+  send(XCB_KEY_RELEASE, code);
+}
+
+void InputDriver::tap(xcb_keysym_t key, const QList<xcb_keysym_t> &modifiers) {
+  for (const xcb_keysym_t modifier : modifiers) {
+    press(modifier);
+  }
+  press(key);
+  release(key);
+  for (auto modifier = modifiers.crbegin(); modifier != modifiers.crend(); ++modifier) {
+    release(*modifier);
+  }
+}
+
+void InputDriver::type(const QString &text) {
+  constexpr xcb_keysym_t unicodeBase = 0x01000000;
+  constexpr char32_t lastLatin1 = 0xff;
+  const QList<uint> characters = text.toUcs4();
+  for (const uint character : characters) {
+    const xcb_keysym_t key = character <= lastLatin1 ? character : unicodeBase + character;
+    tap(key, positionOf(key).shifted ? QList<xcb_keysym_t>{XK_Shift_L} : QList<xcb_keysym_t>{});
+  }
+}
+
+void InputDriver::moveTo(QPoint position) {
+  send(XCB_MOTION_NOTIFY, 0, position);
+}
+
+void InputDriver::pressButton(quint8 button) {
+  m_heldButtons.append(button);
+  send(XCB_BUTTON_PRESS, button);
+}
+
+void InputDriver::releaseButton(quint8 button) {
+  m_heldButtons.removeOne(button);
+  send(XCB_BUTTON_RELEASE, button);
+}
+
+void InputDriver::click(QPoint position, quint8 button) {
+  moveTo(position);
+  pressButton(button);
+  releaseButton(button);
+}
+
+void InputDriver::drag(QPoint from, QPoint to, quint8 button) {
+  constexpr int steps = 8;
+  moveTo(from);
+  pressButton(button);
+  for (int step = 1; step <= steps; ++step) {
+    moveTo(from + (to - from) * step / steps);
+  }
+  releaseButton(button);
+}
+
+InputDriver::KeyPosition InputDriver::positionOf(xcb_keysym_t key) const {
+  const xcb_setup_t *setup = xcb_get_setup(m_connection);
+  for (const int column : {0, 1}) {
+    for (int code = setup->min_keycode; code <= setup->max_keycode; ++code) {
+      const auto keycode = static_cast<xcb_keycode_t>(code);
+      if (xcb_key_symbols_get_keysym(m_symbols.get(), keycode, column) == key) {
+        return {keycode, column == 1};
+      }
+    }
+  }
+  throw HarnessError(u"no key of the keyboard carries the symbol 0x%1"_s.arg(key, 0, 16));
+}
+
+void InputDriver::send(quint8 eventType, quint8 detail, QPoint position) {
+  xcb_test_fake_input(m_connection, eventType, detail, XCB_CURRENT_TIME, m_connection.root(),
+                      static_cast<qint16>(position.x()), static_cast<qint16>(position.y()), 0);
+  m_connection.sync();
+}
+
+}  // namespace lanternix

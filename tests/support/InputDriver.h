@@ -1,0 +1,58 @@
+#pragma once
+
+#include "support/XConnection.h"
+
+#include <QtCore/QList>
+#include <QtCore/QPoint>
+
+#include <memory>
+#include <xcb/xcb_keysyms.h>
+
+namespace lanternix {
+
+/// The hands at the keyboard and the mouse: events that no program can tell from a person's. Every
+/// call returns once the server has taken the event; what is still held at the end is released.
+///
+/// Keys are named by their X key symbols, such as XK_Escape or XK_comma.
+class InputDriver {
+ public:
+  explicit InputDriver(const QString &displayName);
+  ~InputDriver();
+  Q_DISABLE_COPY_MOVE(InputDriver)
+
+  void press(xcb_keysym_t key);
+  void release(xcb_keysym_t key);
+  /// Presses and releases \p key while \p modifiers are held.
+  void tap(xcb_keysym_t key, const QList<xcb_keysym_t> &modifiers = {});
+  /// Types \p text, of characters that the keyboard has, with Shift where they need it.
+  void type(const QString &text);
+
+  void moveTo(QPoint position);
+  void pressButton(quint8 button = 1);
+  void releaseButton(quint8 button = 1);
+  void click(QPoint position, quint8 button = 1);
+  /// Moves with the button held, by steps as a hand does.
+  void drag(QPoint from, QPoint to, quint8 button = 1);
+
+  /// Reads the keyboard map anew, after somebody changed it.
+  void refreshKeyboard();
+
+ private:
+  struct KeyPosition {
+    xcb_keycode_t code;
+    bool shifted;
+  };
+  struct SymbolsDeleter {
+    void operator()(xcb_key_symbols_t *symbols) const noexcept { xcb_key_symbols_free(symbols); }
+  };
+
+  KeyPosition positionOf(xcb_keysym_t key) const;
+  void send(quint8 eventType, quint8 detail, QPoint position = {});
+
+  XConnection m_connection;
+  std::unique_ptr<xcb_key_symbols_t, SymbolsDeleter> m_symbols;
+  QList<xcb_keycode_t> m_heldKeys;
+  QList<quint8> m_heldButtons;
+};
+
+}  // namespace lanternix

@@ -1,0 +1,155 @@
+#include "support/OtherClient.h"
+
+#include "support/HarnessError.h"
+#include "support/WaitUntil.h"
+
+#include <X11/keysym.h>
+#include <array>
+#include <xcb/xcb_keysyms.h>
+
+namespace lanternix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct SymbolsDeleter {
+  void operator()(xcb_key_symbols_t *symbols) const noexcept { xcb_key_symbols_free(symbols); }
+};
+using Symbols = std::unique_ptr<xcb_key_symbols_t, SymbolsDeleter>;
+
+void setText(const XConnection &connection, xcb_window_t window, xcb_atom_t property,
+             xcb_atom_t type, const QByteArray &text) {
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, property, type, 8,
+                      static_cast<quint32>(text.size()), text.constData());
+}
+
+}  // namespace
+
+OtherClient::OtherClient(const QString &displayName, QRect geometry, Shape shape)
+    : m_connection(displayName), m_window(xcb_generate_id(m_connection)) {
+  const std::array<quint32, 2> values{m_connection.screen().white_pixel,
+                                      XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_BUTTON_PRESS |
+                                          XCB_EVENT_MASK_FOCUS_CHANGE | XCB_EVENT_MASK_EXPOSURE |
+                                          XCB_EVENT_MASK_STRUCTURE_NOTIFY};
+  xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_window, m_connection.root(),
+                    static_cast<qint16>(geometry.x()), static_cast<qint16>(geometry.y()),
+                    static_cast<quint16>(geometry.width()), static_cast<quint16>(geometry.height()),
+                    0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                    XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values.data());
+  setText(m_connection, m_window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, "other\0Other\0"_ba);
+  setText(m_connection, m_window, m_connection.atom("_NET_WM_NAME"),
+          m_connection.atom("UTF8_STRING"), "Other"_ba);
+  // Size hints that say "the user chose this place", so that the window manager keeps it.
+  std::array<quint32, 18> hints{};
+  hints[0] = 1U;
+  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window, XCB_ATOM_WM_NORMAL_HINTS,
+                      XCB_ATOM_WM_SIZE_HINTS, 32, hints.size(), hints.data());
+  if (shape == Shape::fullScreen) {
+    const xcb_atom_t state = m_connection.atom("_NET_WM_STATE_FULLSCREEN");
+    xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window,
+                        m_connection.atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 1, &state);
+  }
+  m_connection.sync();
+}
+
+void OtherClient::show() {
+  xcb_map_window(m_connection, m_window);
+  m_connection.sync();
+  require(u"the other program's window"_s, [this] {
+    readEvents();
+    return m_mapped;
+  });
+}
+
+void OtherClient::takeFocus() {
+  require(u"the other program's focus"_s, [this] {
+    if (hasFocus()) {
+      return true;
+    }
+    xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_window, XCB_CURRENT_TIME);
+    m_connection.sync();
+    return hasFocus();
+  });
+}
+
+const QList<xcb_keysym_t> &OtherClient::keys() {
+  readEvents();
+  return m_keys;
+}
+
+const QList<quint8> &OtherClient::buttons() {
+  readEvents();
+  return m_buttons;
+}
+
+bool OtherClient::hasFocus() {
+  readEvents();
+  return m_focused;
+}
+
+bool OtherClient::holdKey(xcb_keysym_t key, quint16 modifiers) {
+  const xcb_void_cookie_t cookie =
+      xcb_grab_key_checked(m_connection, 0, m_connection.root(), modifiers, keyCode(key),
+                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  const XReply<xcb_generic_error_t> error(xcb_request_check(m_connection, cookie));
+  return !error;
+}
+
+void OtherClient::letKeyGo(xcb_keysym_t key, quint16 modifiers) {
+  xcb_ungrab_key(m_connection, keyCode(key), m_connection.root(), modifiers);
+  m_connection.sync();
+}
+
+void OtherClient::readEvents() {
+  m_connection.sync();
+  const Symbols symbols(xcb_key_symbols_alloc(m_connection));
+  for (XReply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection)); event;
+       event.reset(xcb_poll_for_event(m_connection))) {
+    switch (event->response_type & ~0x80U) {
+      case XCB_KEY_PRESS: {
+        const auto *key = reinterpret_cast<const xcb_key_press_event_t *>(event.get());
+        m_keys.append(xcb_key_symbols_get_keysym(symbols.get(), key->detail, 0));
+        noteUserTime(key->time);
+        break;
+      }
+      case XCB_BUTTON_PRESS: {
+        const auto *button = reinterpret_cast<const xcb_button_press_event_t *>(event.get());
+        m_buttons.append(button->detail);
+        noteUserTime(button->time);
+        break;
+      }
+      case XCB_EXPOSE:
+        m_mapped = true;
+        break;
+      case XCB_FOCUS_IN:
+      case XCB_FOCUS_OUT: {
+        // A grab of the keyboard by somebody else comes and goes without moving the focus.
+        const auto *focus = reinterpret_cast<const xcb_focus_in_event_t *>(event.get());
+        if (focus->mode == XCB_NOTIFY_MODE_NORMAL || focus->mode == XCB_NOTIFY_MODE_WHILE_GRABBED) {
+          m_focused = (event->response_type & ~0x80U) == XCB_FOCUS_IN;
+        }
+        break;
+      }
+      default:
+        break;
+    }
+  }
+}
+
+void OtherClient::noteUserTime(xcb_timestamp_t time) {
+  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window,
+                      m_connection.atom("_NET_WM_USER_TIME"), XCB_ATOM_CARDINAL, 32, 1, &time);
+  m_connection.sync();
+}
+
+xcb_keycode_t OtherClient::keyCode(xcb_keysym_t key) const {
+  const Symbols symbols(xcb_key_symbols_alloc(m_connection));
+  const XReply<xcb_keycode_t> codes(xcb_key_symbols_get_keycode(symbols.get(), key));
+  if (!codes || codes.get()[0] == XCB_NO_SYMBOL) {
+    throw HarnessError(u"no key of the keyboard carries the symbol 0x%1"_s.arg(key, 0, 16));
+  }
+  return codes.get()[0];
+}
+
+}  // namespace lanternix

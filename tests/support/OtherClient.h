@@ -1,0 +1,53 @@
+#pragma once
+
+#include "support/XConnection.h"
+
+#include <QtCore/QList>
+#include <QtCore/QRect>
+
+namespace lanternix {
+
+/// A window of some other program, with a connection of its own. It does what a well-behaved
+/// program does: names itself, notes the time of the user's last action on it, and keeps a record
+/// of the keys and buttons that reached it.
+class OtherClient {
+ public:
+  enum class Shape { normal, fullScreen };
+
+  /// Makes the window without showing it.
+  OtherClient(const QString &displayName, QRect geometry = {60, 60, 400, 300},
+              Shape shape = Shape::normal);
+
+  /// Shows the window and returns once it is on the screen.
+  void show();
+  /// Asks for the keyboard and returns once it has it.
+  void takeFocus();
+
+  xcb_window_t window() const { return m_window; }
+
+  /// The key symbols (unshifted) whose presses reached the window, and a held combination's too.
+  const QList<xcb_keysym_t> &keys();
+  /// The buttons whose presses reached the window.
+  const QList<quint8> &buttons();
+  /// Whether the window has the keyboard, as it was told by the server.
+  bool hasFocus();
+
+  /// Takes a key combination for this program alone (\p modifiers of XCB_MOD_MASK_*). False when
+  /// another program holds it.
+  bool holdKey(xcb_keysym_t key, quint16 modifiers);
+  void letKeyGo(xcb_keysym_t key, quint16 modifiers);
+
+ private:
+  void readEvents();
+  void noteUserTime(xcb_timestamp_t time);
+  xcb_keycode_t keyCode(xcb_keysym_t key) const;
+
+  XConnection m_connection;
+  xcb_window_t m_window;
+  QList<xcb_keysym_t> m_keys;
+  QList<quint8> m_buttons;
+  bool m_mapped = false;
+  bool m_focused = false;
+};
+
+}  // namespace lanternix

@@ -1,0 +1,48 @@
+#include "support/Program.h"
+
+#include "support/DesktopSession.h"
+#include "support/HarnessError.h"
+#include "support/WaitUntil.h"
+
+namespace lanternix {
+
+using namespace Qt::StringLiterals;
+
+Program::Program(DesktopSession &session, Disk disk)
+    : m_session(session), m_process(QStringLiteral(LANTERNIX_PROGRAM), u"lanternix"_s) {
+  if (disk == Disk::full) {
+    m_process.forbidFileWrites();
+  }
+  m_process.start({}, session.variables());
+}
+
+void Program::waitForPanel() {
+  const bool shown = waitUntil(
+      [this] { return !isRunning() || (isPanelShown() && m_session.windows().hasFocus(panel())); });
+  if (!shown || !isRunning()) {
+    throw HarnessError(u"the panel was not shown with the keyboard in it; the program said: "_s +
+                       QString::fromUtf8(errors()));
+  }
+}
+
+bool Program::isPanelShown() const {
+  const std::optional<xcb_window_t> window = findPanel();
+  return window.has_value() && m_session.windows().isViewable(*window);
+}
+
+xcb_window_t Program::panel() const {
+  const std::optional<xcb_window_t> window = findPanel();
+  if (!window.has_value()) {
+    throw HarnessError(u"the program has made no panel window"_s);
+  }
+  return *window;
+}
+
+std::optional<xcb_window_t> Program::findPanel() const {
+  if (!m_panel.has_value()) {
+    m_panel = m_session.windows().find(u"lanternix"_s, u"Lanternix"_s);
+  }
+  return m_panel;
+}
+
+}  // namespace lanternix

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "support/ChildProcess.h"
+
+#include <QtCore/QTemporaryDir>
+
+namespace lanternix {
+
+class VirtualDisplay;
+
+/// A window manager (openbox) with a configuration of the harness's own: two desktops, focus by
+/// click, a reserved strip at the top so that work area and screen differ, and no key bindings.
+class WindowManager {
+ public:
+  /// Height of the strip at the top of the screen that does not belong to the work area.
+  static constexpr int topMargin = 40;
+
+  /// Starts it and returns once it manages the display.
+  explicit WindowManager(const VirtualDisplay &display);
+
+ private:
+  QTemporaryDir m_home;
+  ChildProcess m_process;
+};
+
+}  // namespace lanternix

@@ -1,0 +1,191 @@
+#include "support/WindowProbe.h"
+
+#include <cstring>
+#include <vector>
+
+namespace lanternix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::vector<quint32> numbers(const QByteArray &bytes) {
+  std::vector<quint32> values(static_cast<size_t>(bytes.size()) / sizeof(quint32));
+  std::memcpy(values.data(), bytes.constData(), values.size() * sizeof(quint32));
+  return values;
+}
+
+}  // namespace
+
+WindowProbe::WindowProbe(const QString &displayName) : m_connection(displayName) {}
+
+std::optional<xcb_window_t> WindowProbe::find(const QString &instanceName,
+                                              const QString &wantedTitle) const {
+  QList<xcb_window_t> waiting = children(m_connection.root());
+  while (!waiting.isEmpty()) {
+    const xcb_window_t window = waiting.takeFirst();
+    if (wmClass(window).value(0) == instanceName && title(window) == wantedTitle) {
+      return window;
+    }
+    waiting.append(children(window));
+  }
+  return std::nullopt;
+}
+
+bool WindowProbe::isViewable(xcb_window_t window) const {
+  const XReply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
+      m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
+  return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
+}
+
+QRect WindowProbe::geometry(xcb_window_t window) const {
+  return rootGeometry(window);
+}
+
+QRect WindowProbe::frameGeometry(xcb_window_t window) const {
+  return rootGeometry(topLevel(window));
+}
+
+bool WindowProbe::isAbove(xcb_window_t upper, xcb_window_t lower) const {
+  const QList<xcb_window_t> bottomToTop = children(m_connection.root());
+  return bottomToTop.indexOf(topLevel(upper)) > bottomToTop.indexOf(topLevel(lower));
+}
+
+QStringList WindowProbe::wmClass(xcb_window_t window) const {
+  QStringList names = QString::fromLatin1(m_connection.property(window, "WM_CLASS")).split(u'\0');
+  names.removeAll(QString());
+  return names;
+}
+
+QString WindowProbe::title(xcb_window_t window) const {
+  return QString::fromUtf8(m_connection.property(window, "_NET_WM_NAME"));
+}
+
+QStringList WindowProbe::states(xcb_window_t window) const {
+  return atomNames(window, "_NET_WM_STATE");
+}
+
+QStringList WindowProbe::types(xcb_window_t window) const {
+  return atomNames(window, "_NET_WM_WINDOW_TYPE");
+}
+
+quint32 WindowProbe::desktop(xcb_window_t window) const {
+  return m_connection.number(window, "_NET_WM_DESKTOP");
+}
+
+std::optional<QSize> WindowProbe::minimumSize(xcb_window_t window) const {
+  constexpr quint32 minimumSizeFlag = 1U << 4;
+  const std::vector<quint32> hints = numbers(m_connection.property(window, "WM_NORMAL_HINTS"));
+  if (hints.size() < 7 || (hints[0] & minimumSizeFlag) == 0) {
+    return std::nullopt;
+  }
+  return QSize(static_cast<int>(hints[5]), static_cast<int>(hints[6]));
+}
+
+bool WindowProbe::hasPosition(xcb_window_t window) const {
+  constexpr quint32 userOrProgramPositionFlags = 1U | 1U << 2;
+  return (m_connection.number(window, "WM_NORMAL_HINTS") & userOrProgramPositionFlags) != 0;
+}
+
+bool WindowProbe::hasFocus(xcb_window_t window) const {
+  const XReply<xcb_get_input_focus_reply_t> reply(
+      xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+  xcb_window_t focused = reply ? reply->focus : xcb_window_t{XCB_WINDOW_NONE};
+  while (focused > XCB_INPUT_FOCUS_POINTER_ROOT && focused != m_connection.root()) {
+    if (focused == window) {
+      return true;
+    }
+    focused = parent(focused);
+  }
+  return false;
+}
+
+xcb_window_t WindowProbe::activeWindow() const {
+  return m_connection.number(m_connection.root(), "_NET_ACTIVE_WINDOW");
+}
+
+QRect WindowProbe::workArea() const {
+  const std::vector<quint32> area =
+      numbers(m_connection.property(m_connection.root(), "_NET_WORKAREA"));
+  if (area.size() < 4) {
+    return rootGeometry(m_connection.root());
+  }
+  return {static_cast<int>(area[0]), static_cast<int>(area[1]), static_cast<int>(area[2]),
+          static_cast<int>(area[3])};
+}
+
+void WindowProbe::switchToDesktop(quint32 desktop) {
+  xcb_client_message_event_t event{};
+  event.response_type = XCB_CLIENT_MESSAGE;
+  event.format = 32;
+  event.window = m_connection.root();
+  event.type = m_connection.atom("_NET_CURRENT_DESKTOP");
+  event.data.data32[0] = desktop;
+  xcb_send_event(m_connection, 0, m_connection.root(),
+                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                 reinterpret_cast<const char *>(&event));
+  m_connection.sync();
+}
+
+QImage WindowProbe::grab(xcb_window_t window) const {
+  const QSize size = rootGeometry(window).size();
+  const XReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(
+      m_connection,
+      xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, 0, 0,
+                    static_cast<quint16>(size.width()), static_cast<quint16>(size.height()), ~0U),
+      nullptr));
+  if (!reply) {
+    return {};
+  }
+  const QImage borrowed(xcb_get_image_data(reply.get()), size.width(), size.height(),
+                        QImage::Format_RGB32);
+  return borrowed.copy();
+}
+
+QList<xcb_window_t> WindowProbe::children(xcb_window_t window) const {
+  const XReply<xcb_query_tree_reply_t> reply(
+      xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+  if (!reply) {
+    return {};
+  }
+  const xcb_window_t *first = xcb_query_tree_children(reply.get());
+  return {first, first + xcb_query_tree_children_length(reply.get())};
+}
+
+xcb_window_t WindowProbe::parent(xcb_window_t window) const {
+  const XReply<xcb_query_tree_reply_t> reply(
+      xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+  return reply ? reply->parent : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+xcb_window_t WindowProbe::topLevel(xcb_window_t window) const {
+  for (xcb_window_t above = parent(window);
+       above != XCB_WINDOW_NONE && above != m_connection.root(); above = parent(window)) {
+    window = above;
+  }
+  return window;
+}
+
+QRect WindowProbe::rootGeometry(xcb_window_t window) const {
+  const xcb_get_geometry_cookie_t sizeCookie = xcb_get_geometry(m_connection, window);
+  const xcb_translate_coordinates_cookie_t positionCookie =
+      xcb_translate_coordinates(m_connection, window, m_connection.root(), 0, 0);
+  const XReply<xcb_get_geometry_reply_t> size(
+      xcb_get_geometry_reply(m_connection, sizeCookie, nullptr));
+  const XReply<xcb_translate_coordinates_reply_t> position(
+      xcb_translate_coordinates_reply(m_connection, positionCookie, nullptr));
+  if (!size || !position) {
+    return {};
+  }
+  return {position->dst_x, position->dst_y, size->width, size->height};
+}
+
+QStringList WindowProbe::atomNames(xcb_window_t window, const char *property) const {
+  QStringList names;
+  for (const quint32 atom : numbers(m_connection.property(window, property))) {
+    names.append(m_connection.atomName(atom));
+  }
+  return names;
+}
+
+}  // namespace lanternix

@@ -1,0 +1,70 @@
+#include "support/XConnection.h"
+
+#include "support/HarnessError.h"
+
+#include <cstring>
+
+namespace lanternix {
+
+using namespace Qt::StringLiterals;
+
+XConnection::XConnection(const QString &displayName) {
+  int screenNumber = 0;
+  m_connection.reset(xcb_connect(displayName.toLocal8Bit().constData(), &screenNumber));
+  if (xcb_connection_has_error(m_connection.get()) != 0) {
+    throw HarnessError(u"no X server answers on display %1"_s.arg(displayName));
+  }
+  xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection.get()));
+  for (; screenNumber > 0; --screenNumber) {
+    xcb_screen_next(&screens);
+  }
+  m_screen = screens.data;
+}
+
+xcb_atom_t XConnection::atom(const char *name) const {
+  const QByteArray key(name);
+  const auto known = m_atoms.constFind(key);
+  if (known != m_atoms.constEnd()) {
+    return *known;
+  }
+  const XReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+      get(), xcb_intern_atom(get(), 0, static_cast<quint16>(key.size()), name), nullptr));
+  const xcb_atom_t atom = reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+  m_atoms.insert(key, atom);
+  return atom;
+}
+
+QString XConnection::atomName(xcb_atom_t atom) const {
+  const XReply<xcb_get_atom_name_reply_t> reply(
+      xcb_get_atom_name_reply(get(), xcb_get_atom_name(get(), atom), nullptr));
+  return reply ? QString::fromLatin1(xcb_get_atom_name_name(reply.get()),
+                                     xcb_get_atom_name_name_length(reply.get()))
+               : QString();
+}
+
+QByteArray XConnection::property(xcb_window_t window, const char *name) const {
+  constexpr quint32 enoughItems = 4096;
+  const XReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+      get(),
+      xcb_get_property(get(), 0, window, atom(name), XCB_GET_PROPERTY_TYPE_ANY, 0, enoughItems),
+      nullptr));
+  return reply ? QByteArray(static_cast<const char *>(xcb_get_property_value(reply.get())),
+                            xcb_get_property_value_length(reply.get()))
+               : QByteArray();
+}
+
+quint32 XConnection::number(xcb_window_t window, const char *name, quint32 fallback) const {
+  const QByteArray bytes = property(window, name);
+  quint32 value = fallback;
+  if (bytes.size() >= qsizetype{sizeof value}) {
+    std::memcpy(&value, bytes.constData(), sizeof value);
+  }
+  return value;
+}
+
+void XConnection::sync() const {
+  const XReply<xcb_get_input_focus_reply_t> reply(
+      xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr));
+}
+
+}  // namespace lanternix

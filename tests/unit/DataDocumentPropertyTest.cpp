@@ -141,19 +141,29 @@ TEST(DataDocumentProperties, RandomDocuments_AreUtf8AndJsonToAnotherReader) {
   }
 }
 
+/// The other reader drops a U+FEFF at the beginning of some texts.
+QString withoutMark(const QString &text) {
+  return text.startsWith(QChar(u'\ufeff')) ? text.sliced(1) : text;
+}
+
+void expectSameText(const QString &text, const QJsonValue &value) {
+  EXPECT_TRUE(value.isString());
+  EXPECT_EQ(withoutMark(text), withoutMark(value.toString()));
+}
+
 void expectSameGroup(const PathGroup &group, const QJsonObject &object) {
   EXPECT_EQ(group.id, QUuid(object["id"_L1].toString()));
-  EXPECT_EQ(group.name, object["name"_L1].toString());
-  EXPECT_EQ(group.iconName, object["iconName"_L1].toString());
-  EXPECT_EQ(group.colorName, object["colorName"_L1].toString());
+  expectSameText(group.name, object["name"_L1]);
+  expectSameText(group.iconName, object["iconName"_L1]);
+  expectSameText(group.colorName, object["colorName"_L1]);
   EXPECT_EQ(group.isExpanded, object["isExpanded"_L1].toBool());
 }
 
 void expectSameItem(const PathItem &item, const QJsonObject &object) {
   EXPECT_EQ(item.id, QUuid(object["id"_L1].toString()));
-  EXPECT_EQ(item.name, object["name"_L1].toString());
-  EXPECT_EQ(item.path, object["path"_L1].toString());
-  EXPECT_EQ(rawValue(item.type), object["type"_L1].toString());
+  expectSameText(item.name, object["name"_L1]);
+  expectSameText(item.path, object["path"_L1]);
+  expectSameText(rawValue(item.type), object["type"_L1]);
   EXPECT_EQ(item.groupId, QUuid(object["groupId"_L1].toString()));
   EXPECT_EQ(item.dateAdded.secondsSinceReferenceDate, object["dateAdded"_L1].toDouble());
   EXPECT_EQ(item.lastAccessed.has_value(), object["lastAccessed"_L1].isDouble());

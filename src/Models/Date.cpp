@@ -1,6 +1,7 @@
 #include "Models/Date.h"
 
 #include <QtCore/QHashFunctions>
+
 #include <cmath>
 #include <limits>
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QtGlobal>
+
 #include <optional>
 #include <span>
 
@@ -20,6 +21,14 @@ enum VirtualKey : quint32 {
   upArrow = 126,
 };
 
+/// Modifiers in the classic encoding, which the registration of a hotkey takes.
+enum ClassicModifier : quint32 {
+  classicCommand = 0x100,
+  classicShift = 0x200,
+  classicOption = 0x800,
+  classicControl = 0x1000,
+};
+
 /// How a key is found on the present keyboard.
 struct Key {
   quint32 virtualCode;
@@ -37,8 +46,8 @@ std::span<const Key> allKeys();
 std::optional<Key> keyForVirtualCode(quint32 virtualCode);
 
 /// The virtual code of a key press: by its symbol when that is a named key's, else by its position.
-/// \p nativeScanCode is the X key code, \p keySymbol the X key symbol. None for unknown keys and for
-/// a position whose named key the user has put elsewhere.
+/// \p nativeScanCode is the X key code, \p keySymbol the X key symbol. None for unknown keys and
+/// for a position whose named key the user has put elsewhere.
 std::optional<quint32> virtualCodeForPress(quint32 nativeScanCode, quint32 keySymbol);
 
 }  // namespace KeyCodes

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "Platform/KeyCodes.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
+
 #include <optional>
 
 namespace lanternix {
@@ -18,12 +21,7 @@ struct HotkeyShortcut {
   };
 
   /// The same modifiers in the classic encoding, which the registration of a hotkey takes.
-  enum ClassicModifier : quint32 {
-    classicCommand = 0x100,
-    classicShift = 0x200,
-    classicOption = 0x800,
-    classicControl = 0x1000,
-  };
+  using enum KeyCodes::ClassicModifier;
 
   /// Virtual key code: a position on the keyboard, not a character. 49 is the space bar.
   quint32 keyCode = 49;

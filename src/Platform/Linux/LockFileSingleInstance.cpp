@@ -1,0 +1,98 @@
+#include "Platform/Linux/LockFileSingleInstance.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QLoggingCategory>
+#include <QtCore/QSocketNotifier>
+#include <QtCore/QStandardPaths>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lanternix {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(instanceLog, "lanternix.instance", QtWarningMsg)
+
+constexpr mode_t ownerOnly = 0600;
+
+/// The runtime directory, which goes with the session; the program's data directory where the
+/// session has none.
+QString lockDirectory() {
+  const QString runtimeDirectory = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  if (!runtimeDirectory.isEmpty() && QDir(runtimeDirectory).exists()) {
+    return runtimeDirectory;
+  }
+  const QString dataDirectory =
+      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Lanternix"_L1;
+  QDir().mkpath(dataDirectory);
+  return dataDirectory;
+}
+
+/// The pipe at \p path, made where it is missing. -1 when neither can be done.
+int openPipe(const QByteArray &path) {
+  if (mkfifo(path.constData(), ownerOnly) != 0 && errno != EEXIST) {
+    return -1;
+  }
+  // Open in both directions the pipe always has a writer, so that it never reads as ended.
+  const int descriptor = open(path.constData(), O_RDWR | O_NONBLOCK | O_CLOEXEC | O_NOFOLLOW);
+  struct stat status {};
+  if (descriptor >= 0 && (fstat(descriptor, &status) != 0 || !S_ISFIFO(status.st_mode))) {
+    close(descriptor);
+    errno = EEXIST;
+    return -1;
+  }
+  return descriptor;
+}
+
+}  // namespace
+
+LockFileSingleInstance::~LockFileSingleInstance() {
+  if (m_descriptor >= 0) {
+    close(m_descriptor);
+  }
+}
+
+bool LockFileSingleInstance::claim() {
+  const QString path = lockDirectory() + "/lanternix.lock"_L1;
+  m_descriptor = openPipe(QFile::encodeName(path));
+  if (m_descriptor < 0) {
+    qCWarning(instanceLog).noquote()
+        << "A second start will not find this one:" << path << "-" << std::strerror(errno);
+    return true;  // rather twice than not at all
+  }
+  if (flock(m_descriptor, LOCK_EX | LOCK_NB) == 0) {
+    listen();
+    return true;
+  }
+  const char ring = '!';
+  if (write(m_descriptor, &ring, 1) != 1) {
+    qCInfo(instanceLog) << "The running program has not been reached:" << std::strerror(errno);
+  }
+  return false;
+}
+
+void LockFileSingleInstance::listen() {
+  auto *notifier = new QSocketNotifier(m_descriptor, QSocketNotifier::Read, this);
+  connect(notifier, &QSocketNotifier::activated, this, &LockFileSingleInstance::answer);
+}
+
+void LockFileSingleInstance::answer() {
+  std::array<char, 64> rings{};
+  bool rung = false;
+  while (read(m_descriptor, rings.data(), rings.size()) > 0) {
+    rung = true;
+  }
+  if (rung) {
+    Q_EMIT showRequested();
+  }
+}
+
+}  // namespace lanternix

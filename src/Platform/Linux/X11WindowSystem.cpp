@@ -1,0 +1,163 @@
+#include "Platform/Linux/X11WindowSystem.h"
+
+#include "Platform/Linux/X11EventTime.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+
+namespace lanternix {
+namespace {
+
+constexpr quint32 sourcePager = 2;  // an action of the user, not a wish of the program
+constexpr quint32 everyDesktop = 0xFFFFFFFF;
+constexpr quint8 bitsPerItem = 32;
+
+xcb_window_t nativeWindow(const QWindow &window) {
+  return static_cast<xcb_window_t>(window.winId());
+}
+
+/// A screen's rectangle in the server's pixels. Qt scales a screen's size, but not its place.
+QRect nativeGeometry(const QScreen &screen) {
+  const QSizeF size = QSizeF(screen.geometry().size()) * screen.devicePixelRatio();
+  return {screen.geometry().topLeft(), size.toSize()};
+}
+
+}  // namespace
+
+X11WindowSystem::X11WindowSystem(const X11Server &server, const X11EventTime &eventTime)
+    : m_server(server), m_eventTime(eventTime), m_atoms(server) {}
+
+QScreen *X11WindowSystem::activeScreen() const {
+  const auto screens = QGuiApplication::screens();
+  if (screens.size() == 1) {
+    return screens.front();  // the usual case needs no question
+  }
+  if (const auto centre = activeWindowCentre()) {
+    for (QScreen *screen : screens) {
+      if (nativeGeometry(*screen).contains(*centre)) {
+        return screen;
+      }
+    }
+  }
+  return QtWindowSystem::activeScreen();
+}
+
+void X11WindowSystem::preparePanel(QWindow &window) {
+  const xcb_window_t panel = nativeWindow(window);
+  // A window manager that has not yet carried out the last hiding will wipe what is written now.
+  m_statesAtRisk = isManaged(panel);
+
+  const std::array types{m_atoms[X11Atoms::netWmWindowTypeUtility]};
+  const std::array states{m_atoms[X11Atoms::netWmStateAbove], m_atoms[X11Atoms::netWmStateSticky],
+                          m_atoms[X11Atoms::netWmStateSkipTaskbar],
+                          m_atoms[X11Atoms::netWmStateSkipPager]};
+  xcb_connection_t *connection = m_server.connection();
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, panel, m_atoms[X11Atoms::netWmWindowType],
+                      XCB_ATOM_ATOM, bitsPerItem, types.size(), types.data());
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, panel, m_atoms[X11Atoms::netWmState],
+                      XCB_ATOM_ATOM, bitsPerItem, states.size(), states.data());
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, panel, m_atoms[X11Atoms::netWmDesktop],
+                      XCB_ATOM_CARDINAL, bitsPerItem, 1, &everyDesktop);
+  setUserTime(panel);
+}
+
+void X11WindowSystem::activate(QWindow &window) {
+  const xcb_window_t panel = nativeWindow(window);
+  xcb_connection_t *connection = m_server.connection();
+  if (!hasWindowManager()) {
+    // The server shows a window at once when nobody manages it. Should it not be viewable all the
+    // same, the request is refused, and that answer is of no use to anybody.
+    const quint32 above = XCB_STACK_MODE_ABOVE;
+    xcb_configure_window(connection, panel, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+    const auto cookie =
+        xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, panel, XCB_CURRENT_TIME);
+    xcb_discard_reply(connection, cookie.sequence);
+    xcb_flush(connection);
+    return;
+  }
+  // The window manager meets these after the request to show the window, which it answers first.
+  setUserTime(panel);
+  if (std::exchange(m_statesAtRisk, false)) {
+    addStates(panel);
+  }
+  sendToWindowManager(panel, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.last()});
+  xcb_flush(connection);
+}
+
+std::optional<xcb_window_t> X11WindowSystem::windowProperty(xcb_window_t window,
+                                                            X11Atoms::Name property) const {
+  const auto reply = awaitReply(
+      xcb_get_property_reply, m_server,
+      xcb_get_property(m_server.connection(), 0, window, m_atoms[property], XCB_ATOM_WINDOW, 0, 1));
+  if (!reply || reply->format != bitsPerItem || reply->value_len != 1) {
+    return std::nullopt;
+  }
+  return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
+}
+
+/// In the server's pixels. None without an active window, or when it has just gone.
+std::optional<QPoint> X11WindowSystem::activeWindowCentre() const {
+  const auto active = windowProperty(m_server.root(), X11Atoms::netActiveWindow);
+  if (!active || *active == XCB_WINDOW_NONE) {
+    return std::nullopt;
+  }
+  xcb_connection_t *connection = m_server.connection();
+  const auto geometryCookie = xcb_get_geometry(connection, *active);
+  const auto originCookie = xcb_translate_coordinates(connection, *active, m_server.root(), 0, 0);
+  const auto geometry = awaitReply(xcb_get_geometry_reply, m_server, geometryCookie);
+  const auto origin = awaitReply(xcb_translate_coordinates_reply, m_server, originCookie);
+  if (!geometry || !origin) {
+    return std::nullopt;
+  }
+  return QPoint(origin->dst_x + geometry->width / 2, origin->dst_y + geometry->height / 2);
+}
+
+/// A window manager keeps a window that names itself, which tells it from one that has died.
+bool X11WindowSystem::hasWindowManager() const {
+  const auto check = windowProperty(m_server.root(), X11Atoms::netSupportingWmCheck);
+  return check && windowProperty(*check, X11Atoms::netSupportingWmCheck) == check;
+}
+
+bool X11WindowSystem::isManaged(xcb_window_t window) const {
+  constexpr quint32 withdrawnState = 0;
+  const auto reply =
+      awaitReply(xcb_get_property_reply, m_server,
+                 xcb_get_property(m_server.connection(), 0, window, m_atoms[X11Atoms::wmState],
+                                  m_atoms[X11Atoms::wmState], 0, 1));
+  return reply && reply->format == bitsPerItem && reply->value_len == 1 &&
+         *static_cast<const quint32 *>(xcb_get_property_value(reply.get())) != withdrawnState;
+}
+
+void X11WindowSystem::setUserTime(xcb_window_t window) {
+  const quint32 time = m_eventTime.last();
+  if (time != 0) {  // which would say that the window does not want the keyboard
+    xcb_change_property(m_server.connection(), XCB_PROP_MODE_REPLACE, window,
+                        m_atoms[X11Atoms::netWmUserTime], XCB_ATOM_CARDINAL, bitsPerItem, 1, &time);
+  }
+}
+
+void X11WindowSystem::addStates(xcb_window_t window) {
+  constexpr quint32 add = 1;
+  sendToWindowManager(
+      window, X11Atoms::netWmState,
+      {add, m_atoms[X11Atoms::netWmStateAbove], m_atoms[X11Atoms::netWmStateSticky], sourcePager});
+  sendToWindowManager(window, X11Atoms::netWmState,
+                      {add, m_atoms[X11Atoms::netWmStateSkipTaskbar],
+                       m_atoms[X11Atoms::netWmStateSkipPager], sourcePager});
+}
+
+void X11WindowSystem::sendToWindowManager(xcb_window_t window, X11Atoms::Name type,
+                                          const std::array<quint32, 5> &data) {
+  xcb_client_message_event_t message{};
+  message.response_type = XCB_CLIENT_MESSAGE;
+  message.format = bitsPerItem;
+  message.window = window;
+  message.type = m_atoms[type];
+  std::ranges::copy(data, message.data.data32);
+  xcb_send_event(m_server.connection(), 0, m_server.root(),
+                 XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                 reinterpret_cast<const char *>(&message));
+}
+
+}  // namespace lanternix

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Platform/Linux/QtWindowSystem.h"
+#include "Platform/Linux/X11Atoms.h"
+
+#include <QtCore/QRect>
+
+#include <optional>
+
+namespace lanternix {
+
+class X11EventTime;
+
+/// Speaks to the window manager by the Extended Window Manager Hints, and to the server itself
+/// where there is no window manager.
+class X11WindowSystem : public QtWindowSystem {
+ public:
+  X11WindowSystem(const X11Server &server, const X11EventTime &eventTime);
+
+  QScreen *activeScreen() const override;
+  void preparePanel(QWindow &window) override;
+  void activate(QWindow &window) override;
+
+ private:
+  std::optional<xcb_window_t> windowProperty(xcb_window_t window, X11Atoms::Name property) const;
+  std::optional<QPoint> activeWindowCentre() const;
+  bool hasWindowManager() const;
+  bool isManaged(xcb_window_t window) const;
+  void setUserTime(xcb_window_t window);
+  void addStates(xcb_window_t window);
+  void sendToWindowManager(xcb_window_t window, X11Atoms::Name type,
+                           const std::array<quint32, 5> &data);
+
+  const X11Server &m_server;
+  const X11EventTime &m_eventTime;
+  mutable X11Atoms m_atoms;
+  /// Whether the window manager was about to wipe the panel's states when they were written.
+  bool m_statesAtRisk = false;
+};
+
+}  // namespace lanternix

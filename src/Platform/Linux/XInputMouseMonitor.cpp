@@ -1,0 +1,101 @@
+#include "Platform/Linux/XInputMouseMonitor.h"
+
+#include "Platform/Linux/X11EventTime.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QWindow>
+
+#include <xcb/xinput.h>
+
+namespace lanternix {
+namespace {
+
+constexpr quint32 leftButton = 1;
+constexpr quint32 rightButton = 3;
+
+/// The extension's number, by which its events are known; none when the server lacks it. Qt has
+/// asked before us, so that this is answered from memory.
+std::optional<quint8> extensionOpcode(const X11Server &server) {
+  const auto *extension = xcb_get_extension_data(server.connection(), &xcb_input_id);
+  return extension != nullptr && extension->present != 0 ? std::optional(extension->major_opcode)
+                                                         : std::nullopt;
+}
+
+}  // namespace
+
+XInputMouseMonitor::XInputMouseMonitor(const X11Server &server, X11EventTime &eventTime)
+    : m_server(server), m_eventTime(eventTime) {
+  QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+void XInputMouseMonitor::setActive(bool active) {
+  if (!m_opcode) {
+    m_opcode = extensionOpcode(m_server);
+  }
+  if (active == m_active || !m_opcode) {
+    return;
+  }
+  m_active = active;
+  struct {
+    xcb_input_event_mask_t head;
+    quint32 mask;
+  } const selection{{XCB_INPUT_DEVICE_ALL_MASTER, 1},
+                    active ? quint32{XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS} : 0};
+  for (const xcb_window_t root : m_server.roots()) {
+    xcb_input_xi_select_events(m_server.connection(), root, 1, &selection.head);
+  }
+  xcb_flush(m_server.connection());
+}
+
+bool XInputMouseMonitor::nativeEventFilter(const QByteArray & /*eventType*/, void *message,
+                                           qintptr * /*result*/) {
+  const auto &event = *static_cast<const xcb_generic_event_t *>(message);
+  if (isWatchedPress(event)) {
+    m_eventTime.note(reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event).time);
+    if (!isPointerOverOwnWindow()) {
+      Q_EMIT pressedOutside();
+    }
+  }
+  return false;
+}
+
+bool XInputMouseMonitor::isWatchedPress(const xcb_generic_event_t &event) const {
+  if (!m_active || event.response_type != XCB_GE_GENERIC) {
+    return false;
+  }
+  const auto &press = reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event);
+  return press.extension == m_opcode && press.event_type == XCB_INPUT_RAW_BUTTON_PRESS &&
+         (press.detail == leftButton || press.detail == rightButton);
+}
+
+/// Windows are compared as the root window's children, so that a window manager's frame counts as
+/// part of the window in it.
+bool XInputMouseMonitor::isPointerOverOwnWindow() const {
+  const auto pointer = awaitReply(xcb_query_pointer_reply, m_server,
+                                  xcb_query_pointer(m_server.connection(), m_server.root()));
+  if (!pointer || pointer->child == XCB_WINDOW_NONE) {
+    return false;
+  }
+  const auto windows = QGuiApplication::topLevelWindows();
+  for (const QWindow *window : windows) {
+    if (window->isVisible() && window->handle() != nullptr &&
+        topLevelOf(static_cast<xcb_window_t>(window->winId())) == pointer->child) {
+      return true;
+    }
+  }
+  return false;
+}
+
+xcb_window_t XInputMouseMonitor::topLevelOf(xcb_window_t window) const {
+  while (window != XCB_WINDOW_NONE) {
+    const auto tree =
+        awaitReply(xcb_query_tree_reply, m_server, xcb_query_tree(m_server.connection(), window));
+    if (!tree || tree->parent == tree->root) {
+      return tree ? window : xcb_window_t{XCB_WINDOW_NONE};
+    }
+    window = tree->parent;
+  }
+  return XCB_WINDOW_NONE;
+}
+
+}  // namespace lanternix

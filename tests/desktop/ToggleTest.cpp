@@ -73,7 +73,7 @@ TEST_F(ToggleTest, StoredShortcut_TogglesInPlaceOfTheDefault) {
   // Control and option with K.
   session().home().writePreferences(
       R"ini(globalShortcut="@ByteArray({\"keyCode\":40,\"modifiers\":786432})")ini");
-      startHidden(commands({u"Build"_s}));
+  startHidden(commands({u"Build"_s}));
   const auto other = session().openOtherWindow();
   pressShortcut();
   EXPECT_TRUE(waitUntil([&] { return other->keys().contains(XK_space); }));

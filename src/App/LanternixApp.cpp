@@ -3,6 +3,7 @@
 #include "App/AppDelegate.h"
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
+#include "Platform/WindowSystem.h"
 
 #include <QtWidgets/QApplication>
 
@@ -40,7 +41,7 @@ int LanternixApp::run(int argc, char **argv) {
     return 0;
   }
   const std::unique_ptr<Platform> platform = Platform::create();
-  AppDelegate delegate(platform->doors(), *platform->windowSystem, *platform->mouseMonitor);
+  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
   QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
                    &AppDelegate::showPanel);
   delegate.applicationDidFinishLaunching();

@@ -3,7 +3,7 @@
 #include "App/AppState.h"
 #include "Platform/Doors.h"
 #include "Platform/Linux/PosixFileManager.h"
-#include "Platform/SettingsUserDefaults.h"
+#include "Platform/Linux/SettingsUserDefaults.h"
 #include "Services/DataDocument.h"
 #include "support/FakeClock.h"
 #include "support/FakeHotkeyRegistrar.h"

@@ -1,11 +1,5 @@
 #pragma once
 
-#include <QtCore/QObject>
-#include <QtCore/QSet>
-#include <functional>
-#include <memory>
-#include <optional>
-
 #include "Models/PanelItemSize.h"
 #include "Platform/Doors.h"
 #include "Services/BackupService.h"
@@ -13,13 +7,26 @@
 #include "Services/LauncherService.h"
 #include "Services/StorageService.h"
 
+#include <QtCore/QObject>
+#include <QtCore/QSet>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <vector>
+
 namespace lanternix {
 
+class ItemArrangement;
 class SearchIndex;
 
 /// The one store of the program: groups and items, the search, the panel's selection and the user's
 /// preferences. Every view reads from it and calls its operations by name; every operation that
 /// changes data writes the whole document back before it returns. All of it is for the main thread.
+///
+/// A signal is emitted when the operation that changed the property has done all its work, so that
+/// whoever reads in a slot sees the finished state; a slot may call further operations.
 class AppState : public QObject {
   Q_OBJECT
 
@@ -36,6 +43,10 @@ class AppState : public QObject {
 
   const QList<PathGroup> &groups() const { return m_groups; }
   const QList<PathItem> &items() const { return m_items; }
+  /// The first group with this id, or null. Valid until the data change.
+  const PathGroup *groupWithId(const QUuid &id) const;
+  /// The first item with this id, or null. Valid until the data change.
+  const PathItem *itemWithId(const QUuid &id) const;
 
   /// Appends \p group with the next free order.
   void addGroup(PathGroup group);
@@ -46,7 +57,8 @@ class AppState : public QObject {
   /// Moves groups in display order: those at \p offsets are taken out and put, together, before the
   /// one that was at \p destination (the list's length appends). Renumbers all.
   void moveGroup(const QSet<qsizetype> &offsets, qsizetype destination);
-  /// Folds or unfolds a group. Unknown id: nothing.
+  /// Folds or unfolds the first group with this id and saves, so that it is found that way at the
+  /// next start. Unknown id: nothing.
   void toggleGroup(const QUuid &id);
 
   /// Appends \p item with the next free order of its group.
@@ -103,7 +115,23 @@ class AppState : public QObject {
   QList<PathItem> navigationItems() const;
   void navigateDown();
   void navigateUp();
+  /// Opens the selected item, shown or not, else the first of navigationItems().
   void openSelectedOrFirstItem();
+
+  // --- The same reads for long lists ------------------------------------------------------------
+  // Positions in groups() and items() instead of copies. The first read after a change does the
+  // work for all of them. Each is valid until the next operation.
+
+  /// Where scopedGroups() are in groups(); absent when they are.
+  std::optional<std::span<const qsizetype>> scopedGroupPositions() const;
+  /// Where filteredGroups() are in groups().
+  std::span<const qsizetype> filteredGroupPositions() const;
+  /// Where itemsForGroup() are in items().
+  std::span<const qsizetype> itemPositionsForGroup(const QUuid &groupId) const;
+  /// Where recentItems() are in items().
+  std::span<const qsizetype> recentItemPositions() const;
+  /// Where navigationItems() are in items().
+  std::span<const qsizetype> navigationItemPositions() const;
 
   // --- Panel and preferences --------------------------------------------------------------------
 
@@ -141,16 +169,36 @@ class AppState : public QObject {
 
  private:
   struct Listing;
+  using Signal = void (AppState::*)();
+  /// What an operation did to the items: set the date of an access, moved them, or anything else.
+  enum class ItemChange { accessed, arranged, replaced };
 
   void readPreferences();
-  void loadData();
+  qint64 storedBackupRetentionDays() const;
   void normalizeItemOrders();
-  void setData(QList<PathGroup> groups, QList<PathItem> items);
+  qint64 nextGroupOrder();
+  qint64 nextItemOrder(const QUuid &groupId);
+  std::vector<qsizetype> groupsInDisplayOrder() const;
+  void setData(const StorageService::Data &data);
   void save();
+
+  /// Assigns, and remembers the signal when that is a change.
+  template <typename Value>
+  void assign(Value &property, const Value &value, Signal changed);
+  void noteChange(Signal changed);
   void groupsDidChange();
-  void itemsDidChange();
+  void itemsDidChange(ItemChange change);
+  void announceChanges();
+
+  void assignSearchQuery(const QString &query);
   void navigate(qsizetype step);
-  const Listing &listing() const;
+  std::optional<qsizetype> selectedNavigationIndex() const;
+  QString needle() const;
+  const ItemArrangement &arrangement() const;
+  const SearchIndex &searchIndex() const;
+  Listing &listing() const;
+  QList<PathItem> itemsAt(std::span<const qsizetype> positions) const;
+  QList<PathGroup> groupsAt(std::span<const qsizetype> positions) const;
 
   UserDefaults &m_userDefaults;
   Clock &m_clock;
@@ -169,9 +217,22 @@ class AppState : public QObject {
   PanelItemSize m_panelItemSize = PanelItemSize::medium;
   qint64 m_backupRetentionDays = 0;
 
-  // What follows from groups, items and query, worked out at the first read after a change.
-  mutable std::unique_ptr<Listing> m_listing;
-  mutable std::unique_ptr<SearchIndex> m_searchIndex;
+  // What follows from the properties, worked out at the first read after a change.
+  mutable std::unique_ptr<ItemArrangement> m_arrangement;       // from the items' ids and orders
+  mutable std::unique_ptr<SearchIndex> m_searchIndex;           // from the items' names and paths
+  mutable std::optional<std::vector<qsizetype>> m_recentItems;  // from the items' dates
+  mutable std::unique_ptr<Listing> m_listing;                   // from groups, items and query
+
+  QList<Signal> m_unannounced;  // the signals of changes made, each once
 };
+
+template <typename Value>
+void AppState::assign(Value &property, const Value &value, Signal changed) {
+  if (property == value) {
+    return;
+  }
+  property = value;
+  noteChange(changed);
+}
 
 }  // namespace lanternix

@@ -3,6 +3,7 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QList>
 #include <QtCore/QString>
+
 #include <vector>
 
 namespace lanternix {

@@ -1,3 +1,5 @@
-int main() {
-  return 0;
+#include "App/LanternixApp.h"
+
+int main(int argc, char **argv) {
+  return lanternix::LanternixApp::run(argc, argv);
 }

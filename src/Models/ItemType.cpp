@@ -18,7 +18,7 @@ QString rawValue(ItemType type) {
   Q_UNREACHABLE();
 }
 
-std::optional<ItemType> itemTypeFromRawValue(QStringView rawValue) {
+std::optional<ItemType> itemTypeFromRawValue(QAnyStringView rawValue) {
   if (rawValue == "directory"_L1) {
     return ItemType::directory;
   }

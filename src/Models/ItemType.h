@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+
 #include <array>
 #include <optional>
 
@@ -17,7 +18,7 @@ inline constexpr std::array allItemTypes{ItemType::directory, ItemType::file, It
 QString rawValue(ItemType type);
 
 /// The kind that \p rawValue stands for; none for any other text (case matters).
-std::optional<ItemType> itemTypeFromRawValue(QStringView rawValue);
+std::optional<ItemType> itemTypeFromRawValue(QAnyStringView rawValue);
 
 /// The kind's name as people read it, such as "Directory".
 QString displayName(ItemType type);

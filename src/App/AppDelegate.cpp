@@ -1,0 +1,149 @@
+#include "App/AppDelegate.h"
+
+#include "App/LocalKeyMonitor.h"
+#include "Platform/GlobalMouseMonitor.h"
+#include "Platform/KeyCodes.h"
+#include "Platform/UserDefaults.h"
+#include "Platform/WindowSystem.h"
+#include "Services/Preferences.h"
+#include "Utilities/FloatingPanel.h"
+#include "Views/Panel/PopupPanelView.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
+
+#include <algorithm>
+
+using namespace std::chrono_literals;
+
+namespace lanternix {
+
+namespace {
+
+constexpr auto firstShowDelay = 300ms;
+constexpr int liftAboveCentre = 60;
+
+int storedLength(const UserDefaults &userDefaults, const Preference<double> &preference,
+                 double floor, int available) {
+  const double stored = userDefaults.real(preference.key).valueOr(0);
+  const double length = stored >= floor ? stored : preference.fallback;
+  // A size from a larger screen must not hang over the edges of this one.
+  return static_cast<int>(std::min<double>(length, std::max<double>(available, floor)));
+}
+
+}  // namespace
+
+AppDelegate::AppDelegate(const Doors &doors, WindowSystem &windowSystem,
+                         GlobalMouseMonitor &mouseMonitor, QObject *parent)
+    : QObject(parent),
+      m_userDefaults(doors.userDefaults),
+      m_windowSystem(windowSystem),
+      m_mouseMonitor(mouseMonitor),
+      m_appState(doors) {}
+
+AppDelegate::~AppDelegate() {
+  m_mouseMonitor.setActive(false);
+}
+
+void AppDelegate::applicationDidFinishLaunching() {
+  setupPanel();
+  m_appState.hotkeyService().onToggle = [this] { togglePanel(); };
+  QTimer::singleShot(firstShowDelay, this, &AppDelegate::showPanel);
+}
+
+void AppDelegate::setupPanel() {
+  m_panel = std::make_unique<FloatingPanel>(m_windowSystem);
+  auto content = std::make_unique<PopupPanelView>(m_appState);
+  content->focusSearch();
+  connect(m_panel.get(), &FloatingPanel::didBecomeKey, content.get(), &PopupPanelView::focusSearch);
+  m_panel->setContentView(std::move(content));
+  m_appState.onHide = [this] { m_panel->orderOut(); };
+  m_appState.onShowPanel = [this] { showPanel(); };
+  connect(m_panel.get(), &FloatingPanel::didEndLiveResize, this, &AppDelegate::storePanelSize);
+  connect(m_panel.get(), &FloatingPanel::closeRequested, &m_appState, &AppState::hidePanel);
+
+  connect(&m_mouseMonitor, &GlobalMouseMonitor::pressedOutside, this,
+          &AppDelegate::hideOnPressOutside);
+  connect(&m_appState, &AppState::isPanelVisibleChanged, &m_mouseMonitor,
+          [this] { m_mouseMonitor.setActive(m_appState.isPanelVisible()); });
+  m_keyMonitor = std::make_unique<LocalKeyMonitor>(
+      [this](const QKeyEvent &press) { return handleKey(press); });
+}
+
+void AppDelegate::togglePanel() {
+  if (m_panel->isVisible()) {
+    m_appState.hidePanel();
+  } else {
+    showPanel();
+  }
+}
+
+void AppDelegate::showPanel() {
+  if (!m_panel) {
+    return;
+  }
+  if (const QScreen *screen = m_windowSystem.activeScreen()) {
+    m_panel->setGeometry(panelFrame(screen->availableGeometry()));
+  }
+  m_panel->makeKeyAndOrderFront();
+  m_appState.setPanelVisible(true);
+}
+
+QRect AppDelegate::panelFrame(const QRect &workArea) const {
+  const int width = storedLength(m_userDefaults, Preferences::panelWidth,
+                                 Preferences::panelWidthFloor, workArea.width());
+  const int height = storedLength(m_userDefaults, Preferences::panelHeight,
+                                  Preferences::panelHeightFloor, workArea.height());
+  const int x = workArea.x() + (workArea.width() - width) / 2;
+  const int y = workArea.y() + (workArea.height() - height) / 2 - liftAboveCentre;
+  return {x, std::max(y, workArea.y()), width, height};
+}
+
+void AppDelegate::hideOnPressOutside() {
+  if (m_panel->isVisible()) {
+    m_appState.hidePanel();
+  }
+}
+
+void AppDelegate::storePanelSize() {
+  m_userDefaults.setReal(m_panel->width(), Preferences::panelWidth.key);
+  m_userDefaults.setReal(m_panel->height(), Preferences::panelHeight.key);
+}
+
+bool AppDelegate::handleKey(const QKeyEvent &press) {
+  if (!m_panel->isVisible()) {
+    return false;
+  }
+  const std::optional<quint32> key =
+      KeyCodes::virtualCodeForPress(press.nativeScanCode(), press.nativeVirtualKey());
+  if (key == KeyCodes::escape) {
+    m_appState.hidePanel();
+    return true;
+  }
+  if (key == KeyCodes::upArrow) {
+    m_appState.navigateUp();
+    return true;
+  }
+  if (key == KeyCodes::downArrow) {
+    m_appState.navigateDown();
+    return true;
+  }
+  if (key == KeyCodes::returnKey) {
+    m_appState.openSelectedOrFirstItem();
+    return true;
+  }
+  // By its position like every character key, and by the character itself, which is where users of
+  // other layouts look for it.
+  const bool isComma = key == KeyCodes::comma || press.key() == Qt::Key_Comma;
+  if (isComma && (press.modifiers() & (Qt::MetaModifier | Qt::ControlModifier)) != 0) {
+    m_appState.hidePanel();
+    if (m_appState.onOpenSettings) {
+      m_appState.onOpenSettings();
+    }
+    return true;
+  }
+  return false;
+}
+
+}  // namespace lanternix

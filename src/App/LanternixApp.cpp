@@ -1,0 +1,51 @@
+#include "App/LanternixApp.h"
+
+#include "App/AppDelegate.h"
+#include "Platform/Platform.h"
+#include "Platform/SingleInstance.h"
+#include "Platform/WindowSystem.h"
+
+#include <QtWidgets/QApplication>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+namespace {
+
+// Qt ends a program that finds no display by aborting it; a sentence serves people better.
+bool hasDisplay() {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+         qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+}  // namespace
+
+int LanternixApp::run(int argc, char **argv) {
+  if (!hasDisplay()) {
+    std::fputs("lanternix: there is no display to show the panel on\n", stderr);
+    return 1;
+  }
+  QCoreApplication::setApplicationName(u"Lanternix"_s);
+  QGuiApplication::setDesktopFileName(u"org.lanternix.Lanternix"_s);
+  QApplication::setStyle(u"Fusion"_s);
+  // The program takes no options, so Qt's own are not offered either.
+  int count = qMin(argc, 1);
+  const QApplication application(count, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
+  if (!instance->claim()) {
+    return 0;
+  }
+  const std::unique_ptr<Platform> platform = Platform::create();
+  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
+  QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
+                   &AppDelegate::showPanel);
+  delegate.applicationDidFinishLaunching();
+  return QApplication::exec();
+}
+
+}  // namespace lanternix

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QtCore/QString>
+
+/// The user's base directories, as the desktop's base directory specification has them: the
+/// environment's word where it is an absolute path, else the usual place in the home directory.
+/// Empty when the user has no home directory. None of them need exist.
+namespace lanternix::BaseDirectories {
+
+/// Normally ~/.local/share.
+QString dataHome();
+
+/// Normally ~/.config.
+QString configHome();
+
+}  // namespace lanternix::BaseDirectories

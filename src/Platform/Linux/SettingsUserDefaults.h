@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Platform/UserDefaults.h"
+
+#include <QtCore/QSettings>
+#include <QtCore/QVariant>
+
+namespace lanternix {
+
+/// Preferences in a configuration file that people can read and edit: "key=value" lines under
+/// [General]. All values are text there, so what reads as a value of the wanted type is one.
+/// Booleans are "true" and "false", dates ISO 8601 with an offset, data "@ByteArray(...)".
+///
+/// Keys and sections that the program does not know stay as they are. A file that cannot be
+/// understood to its end is kept under another name before the first write replaces it.
+class SettingsUserDefaults final : public UserDefaults {
+ public:
+  /// The store in the file at \p path, which need not exist.
+  explicit SettingsUserDefaults(const QString &path);
+
+  StoredValue<bool> boolean(const char *key) const override;
+  StoredValue<qint64> integer(const char *key) const override;
+  StoredValue<double> real(const char *key) const override;
+  StoredValue<QString> string(const char *key) const override;
+  StoredValue<QByteArray> data(const char *key) const override;
+  StoredValue<Date> date(const char *key) const override;
+
+  void setBoolean(bool value, const char *key) override;
+  void setInteger(qint64 value, const char *key) override;
+  void setReal(double value, const char *key) override;
+  void setString(const QString &value, const char *key) override;
+  void setData(const QByteArray &value, const char *key) override;
+  /// A date that no calendar reaches is not written.
+  void setDate(const Date &value, const char *key) override;
+
+ private:
+  template <typename Value, typename Parse>
+  StoredValue<Value> read(const char *key, Parse parse) const;
+  /// \p value is text or data.
+  void write(const QVariant &value, const char *key);
+  void keepUnreadableFile();
+
+  QString m_path;
+  QSettings m_settings;
+  bool m_isUnreadable;
+};
+
+}  // namespace lanternix

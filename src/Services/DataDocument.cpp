@@ -1,0 +1,266 @@
+#include "Services/DataDocument.h"
+
+#include "Services/JsonReader.h"
+#include "Services/JsonWriter.h"
+
+#include <algorithm>
+#include <array>
+#include <bitset>
+#include <cmath>
+
+namespace lanternix {
+
+namespace {
+
+// One overload of each for every type that a member has.
+
+bool readValue(JsonReader &reader, QString &value) {
+  return reader.readString(value);
+}
+
+bool readValue(JsonReader &reader, QUuid &value) {
+  return reader.readUuid(value);
+}
+
+bool readValue(JsonReader &reader, qint64 &value) {
+  return reader.readInteger(value);
+}
+
+bool readValue(JsonReader &reader, bool &value) {
+  return reader.readBoolean(value);
+}
+
+bool readValue(JsonReader &reader, Date &value) {
+  return reader.readReal(value.secondsSinceReferenceDate);
+}
+
+bool readValue(JsonReader &reader, std::optional<Date> &value) {
+  return readValue(reader, value.emplace());
+}
+
+bool readValue(JsonReader &reader, ItemType &value) {
+  QByteArrayView text;
+  if (!reader.readUtf8(text)) {
+    return false;
+  }
+  const auto type = itemTypeFromRawValue(QUtf8StringView(text.data(), text.size()));
+  value = type.value_or(value);
+  return type.has_value() || reader.fail("a known type of item is expected");
+}
+
+void writeValue(JsonWriter &writer, const QString &value) {
+  writer.writeString(value);
+}
+
+void writeValue(JsonWriter &writer, const QUuid &value) {
+  writer.writeUuid(value);
+}
+
+void writeValue(JsonWriter &writer, qint64 value) {
+  writer.writeInteger(value);
+}
+
+void writeValue(JsonWriter &writer, bool value) {
+  writer.writeBoolean(value);
+}
+
+void writeValue(JsonWriter &writer, const Date &value) {
+  writer.writeReal(value.secondsSinceReferenceDate);
+}
+
+void writeValue(JsonWriter &writer, ItemType value) {
+  writer.writeString(rawValue(value));
+}
+
+// Lists of records need the tables below, which need these.
+bool readValue(JsonReader &reader, QList<PathGroup> &groups);
+bool readValue(JsonReader &reader, QList<PathItem> &items);
+void writeValue(JsonWriter &writer, const QList<PathGroup> &groups);
+void writeValue(JsonWriter &writer, const QList<PathItem> &items);
+
+template <typename Value>
+void writeMember(JsonWriter &writer, QByteArrayView key, const Value &value) {
+  writer.writeKey(key);
+  writeValue(writer, value);
+}
+
+/// An absent value has no member at all.
+void writeMember(JsonWriter &writer, QByteArrayView key, const std::optional<Date> &value) {
+  if (value.has_value()) {
+    writeMember(writer, key, *value);
+  }
+}
+
+/// How one member of a record is read and written.
+template <typename Record>
+struct Field {
+  QByteArrayView key;
+  bool isRequired;
+  bool (*read)(JsonReader &, Record &);
+  void (*write)(JsonWriter &, QByteArrayView, const Record &);
+};
+
+/// A member that every document has.
+template <auto member, typename Record>
+constexpr Field<Record> required(QByteArrayView key) {
+  return {key, true,
+          [](JsonReader &reader, Record &record) { return readValue(reader, record.*member); },
+          [](JsonWriter &writer, QByteArrayView name, const Record &record) {
+            writeMember(writer, name, record.*member);
+          }};
+}
+
+/// A member that may be missing or null, which leaves it as a fresh record has it.
+template <auto member, typename Record>
+constexpr Field<Record> optional(QByteArrayView key) {
+  return {key, false,
+          [](JsonReader &reader, Record &record) {
+            record.*member = Record().*member;
+            return reader.skipNull() || readValue(reader, record.*member);
+          },
+          [](JsonWriter &writer, QByteArrayView name, const Record &record) {
+            writeMember(writer, name, record.*member);
+          }};
+}
+
+// The tables are sorted by key: that is the order in the document.
+
+constexpr std::array itemFields{
+    required<&PathItem::dateAdded, PathItem>("dateAdded"),
+    required<&PathItem::groupId, PathItem>("groupId"),
+    required<&PathItem::id, PathItem>("id"),
+    optional<&PathItem::lastAccessed, PathItem>("lastAccessed"),
+    required<&PathItem::name, PathItem>("name"),
+    optional<&PathItem::order, PathItem>("order"),
+    required<&PathItem::path, PathItem>("path"),
+    required<&PathItem::type, PathItem>("type"),
+};
+
+constexpr std::array groupFields{
+    required<&PathGroup::colorName, PathGroup>("colorName"),
+    required<&PathGroup::iconName, PathGroup>("iconName"),
+    required<&PathGroup::id, PathGroup>("id"),
+    required<&PathGroup::isExpanded, PathGroup>("isExpanded"),
+    required<&PathGroup::name, PathGroup>("name"),
+    required<&PathGroup::order, PathGroup>("order"),
+};
+
+/// Reads an object: each known member by its field, the others not at all.
+template <typename Record, std::size_t count>
+bool readRecord(JsonReader &reader, Record &record,
+                const std::array<Field<Record>, count> &fields) {
+  if (!reader.beginObject()) {
+    return false;
+  }
+  std::bitset<count> seen;
+  QByteArrayView key;
+  while (reader.nextMember(key)) {
+    const auto field = std::find_if(fields.begin(), fields.end(),
+                                    [key](const auto &known) { return known.key == key; });
+    if (field == fields.end()) {
+      reader.skipValue();
+    } else if (field->read(reader, record)) {
+      seen.set(static_cast<std::size_t>(field - fields.begin()));
+    }
+  }
+  for (std::size_t i = 0; i < count; ++i) {
+    if (fields[i].isRequired && !seen[i]) {
+      return reader.fail("an object lacks a required key and ends");
+    }
+  }
+  return !reader.hasFailed();
+}
+
+template <typename Record, std::size_t count>
+bool readRecords(JsonReader &reader, QList<Record> &records,
+                 const std::array<Field<Record>, count> &fields) {
+  records.clear();  // an earlier list of the same key no longer counts
+  if (!reader.beginArray()) {
+    return false;
+  }
+  while (reader.nextElement() && readRecord(reader, records.emplaceBack(), fields)) {
+  }
+  return !reader.hasFailed();
+}
+
+template <typename Record, std::size_t count>
+void writeRecord(JsonWriter &writer, const Record &record,
+                 const std::array<Field<Record>, count> &fields) {
+  writer.beginObject();
+  for (const Field<Record> &field : fields) {
+    field.write(writer, field.key, record);
+  }
+  writer.endObject();
+}
+
+template <typename Record, std::size_t count>
+void writeRecords(JsonWriter &writer, const QList<Record> &records,
+                  const std::array<Field<Record>, count> &fields) {
+  writer.beginArray();
+  for (const Record &record : records) {
+    writer.beginElement();
+    writeRecord(writer, record, fields);
+  }
+  writer.endArray();
+}
+
+bool readValue(JsonReader &reader, QList<PathGroup> &groups) {
+  return readRecords(reader, groups, groupFields);
+}
+
+bool readValue(JsonReader &reader, QList<PathItem> &items) {
+  return readRecords(reader, items, itemFields);
+}
+
+void writeValue(JsonWriter &writer, const QList<PathGroup> &groups) {
+  writeRecords(writer, groups, groupFields);
+}
+
+void writeValue(JsonWriter &writer, const QList<PathItem> &items) {
+  writeRecords(writer, items, itemFields);
+}
+
+constexpr std::array documentFields{
+    required<&DataDocument::groups, DataDocument>("groups"),
+    required<&DataDocument::items, DataDocument>("items"),
+};
+
+bool hasFiniteDates(const PathItem &item) {
+  return std::isfinite(item.dateAdded.secondsSinceReferenceDate) &&
+         (!item.lastAccessed || std::isfinite(item.lastAccessed->secondsSinceReferenceDate));
+}
+
+/// About what the text will take. Names and paths are counted with room for some escapes.
+qsizetype expectedSize(const DataDocument &document) {
+  constexpr qsizetype frame = 400;
+  qsizetype size = frame * (1 + document.groups.size() + document.items.size());
+  for (const PathItem &item : document.items) {
+    size += (item.name.size() + item.path.size()) * 5 / 4;
+  }
+  return size;
+}
+
+}  // namespace
+
+std::optional<QByteArray> DataDocument::encoded() const {
+  if (!std::all_of(items.begin(), items.end(), hasFiniteDates)) {
+    return {};
+  }
+  JsonWriter writer(expectedSize(*this));
+  writeRecord(writer, *this, documentFields);
+  return writer.takeText();
+}
+
+std::optional<DataDocument> DataDocument::decoded(QByteArrayView bytes, QString *error) {
+  JsonReader reader(bytes);
+  DataDocument document;
+  if (readRecord(reader, document, documentFields) && reader.readEnd()) {
+    return document;
+  }
+  if (error != nullptr) {
+    *error = reader.error();
+  }
+  return {};
+}
+
+}  // namespace lanternix

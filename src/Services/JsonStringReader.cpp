@@ -1,0 +1,193 @@
+#include "Services/JsonStringReader.h"
+
+#include <QtCore/QChar>
+#include <QtCore/QtEndian>
+
+#include <cstring>
+
+namespace lanternix {
+
+namespace {
+
+constexpr quint64 inEachByte(quint64 byte) {
+  return byte * 0x0101'0101'0101'0101U;
+}
+
+/// Whether one of the eight bytes is zero.
+constexpr bool hasZeroByte(quint64 bytes) {
+  return ((bytes - inEachByte(0x01)) & ~bytes & inEachByte(0x80)) != 0;
+}
+
+/// Whether one of the eight bytes ends a run of plain text: a quote, a backslash or a control
+/// character. Eight at a time, because a document is mostly text.
+constexpr bool hasSpecialByte(quint64 bytes) {
+  const bool hasControl = ((bytes - inEachByte(0x20)) & ~bytes & inEachByte(0x80)) != 0;
+  return hasControl || hasZeroByte(bytes ^ inEachByte('"')) ||
+         hasZeroByte(bytes ^ inEachByte('\\'));
+}
+
+constexpr bool isSpecial(char character) {
+  const auto byte = static_cast<unsigned char>(character);
+  return byte < 0x20 || byte == '"' || byte == '\\';
+}
+
+/// The value of a hexadecimal digit in either case, -1 for anything else.
+constexpr int hexadecimalDigit(char character) {
+  if (character >= '0' && character <= '9') {
+    return character - '0';
+  }
+  const char lower = static_cast<char>(character | 0x20);
+  return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
+}
+
+}  // namespace
+
+const char *JsonStringReader::read(const char *position, const char *end) {
+  m_position = position;
+  m_end = end;
+  m_isAscii = true;
+  scanPlainText();
+  if (m_position != m_end && *m_position == '"') {
+    m_content = QByteArrayView(position, m_position);
+  } else if (!readEscapedText(position)) {
+    return nullptr;
+  }
+  if (!m_isAscii && !m_content.isValidUtf8()) {
+    fail(position, "a string is not UTF-8");
+    return nullptr;
+  }
+  return m_position + 1;
+}
+
+bool JsonStringReader::readEscapedText(const char *start) {
+  m_resolved.resize(0);
+  while (m_position != m_end && *m_position == '\\') {
+    m_resolved.append(start, m_position - start);
+    if (!appendEscape()) {
+      return false;
+    }
+    start = m_position;
+    scanPlainText();
+  }
+  if (m_position == m_end) {
+    return fail(m_position, "a string has no end");
+  }
+  if (*m_position != '"') {
+    return fail(m_position, "a string holds a bare control character");
+  }
+  m_resolved.append(start, m_position - start);
+  m_content = m_resolved;
+  return true;
+}
+
+void JsonStringReader::scanPlainText() {
+  quint64 seen = 0;
+  constexpr qptrdiff step = sizeof(quint64);
+  while (m_end - m_position >= step) {
+    const auto bytes = qFromUnaligned<quint64>(m_position);
+    if (hasSpecialByte(bytes)) {
+      break;
+    }
+    seen |= bytes;
+    m_position += step;
+  }
+  while (m_position != m_end && !isSpecial(*m_position)) {
+    seen |= static_cast<unsigned char>(*m_position);
+    ++m_position;
+  }
+  m_isAscii = m_isAscii && (seen & inEachByte(0x80)) == 0;
+}
+
+bool JsonStringReader::appendEscape() {
+  ++m_position;  // the backslash
+  if (m_position == m_end) {
+    return fail(m_position, "a string has no end");
+  }
+  const char letter = *m_position;
+  constexpr QByteArrayView letters = "\"\\/bfnrt";
+  constexpr QByteArrayView meanings = "\"\\/\b\f\n\r\t";
+  if (letter == 'u') {
+    ++m_position;
+    return appendUnicodeEscape();
+  }
+  const qsizetype index = letters.indexOf(letter);
+  if (index < 0) {
+    return fail(m_position, "an escape is unknown");
+  }
+  m_resolved.append(meanings[index]);
+  ++m_position;
+  return true;
+}
+
+bool JsonStringReader::appendUnicodeEscape() {
+  const char *const escape = m_position;
+  char32_t codePoint = 0;
+  if (!readCodeUnit(codePoint)) {
+    return false;
+  }
+  if (QChar::isLowSurrogate(codePoint)) {
+    return fail(escape, "an escape is half a character");
+  }
+  if (QChar::isHighSurrogate(codePoint)) {
+    char32_t low = 0;
+    if (m_end - m_position < 2 || std::memcmp(m_position, "\\u", 2) != 0) {
+      return fail(escape, "an escape is half a character");
+    }
+    m_position += 2;
+    if (!readCodeUnit(low)) {
+      return false;
+    }
+    if (!QChar::isLowSurrogate(low)) {
+      return fail(escape, "an escape is half a character");
+    }
+    codePoint =
+        QChar::surrogateToUcs4(static_cast<char16_t>(codePoint), static_cast<char16_t>(low));
+  }
+  m_isAscii = m_isAscii && codePoint < 0x80;
+  appendUtf8(codePoint);
+  return true;
+}
+
+bool JsonStringReader::readCodeUnit(char32_t &unit) {
+  constexpr qptrdiff digits = 4;
+  if (m_end - m_position < digits) {
+    return fail(m_position, "an escape needs four hexadecimal digits");
+  }
+  unit = 0;
+  for (const char *const end = m_position + digits; m_position != end; ++m_position) {
+    const int digit = hexadecimalDigit(*m_position);
+    if (digit < 0) {
+      return fail(m_position, "an escape needs four hexadecimal digits");
+    }
+    unit = unit * 16 + static_cast<char32_t>(digit);
+  }
+  return true;
+}
+
+void JsonStringReader::appendUtf8(char32_t codePoint) {
+  const auto append = [this](char32_t byte) { m_resolved.append(static_cast<char>(byte)); };
+  const auto appendContinuation = [append](char32_t bits) { append(0x80 | (bits & 0x3f)); };
+  if (codePoint < 0x80) {
+    append(codePoint);
+  } else if (codePoint < 0x800) {
+    append(0xc0 | (codePoint >> 6));
+    appendContinuation(codePoint);
+  } else if (codePoint < 0x10000) {
+    append(0xe0 | (codePoint >> 12));
+    appendContinuation(codePoint >> 6);
+    appendContinuation(codePoint);
+  } else {
+    append(0xf0 | (codePoint >> 18));
+    appendContinuation(codePoint >> 12);
+    appendContinuation(codePoint >> 6);
+    appendContinuation(codePoint);
+  }
+}
+
+bool JsonStringReader::fail(const char *position, const char *error) {
+  m_error = error;
+  m_errorPosition = position;
+  return false;
+}
+
+}  // namespace lanternix

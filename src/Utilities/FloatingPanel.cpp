@@ -1,0 +1,119 @@
+#include "Utilities/FloatingPanel.h"
+
+#include "Platform/WindowSystem.h"
+#include "Utilities/WindowEdgeResizer.h"
+
+#include <QtGui/QCloseEvent>
+#include <QtGui/QPainterPath>
+#include <QtGui/QWindow>
+#include <QtWidgets/QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace lanternix {
+
+namespace {
+
+constexpr QSize initialSize{700, 500};
+constexpr QSize smallestSize{400, 300};
+constexpr double cornerRadius = 12;
+
+}  // namespace
+
+FloatingPanel::FloatingPanel(WindowSystem &windowSystem)
+    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      m_windowSystem(windowSystem) {
+  setWindowTitle(u"Lanternix"_s);
+  setAttribute(Qt::WA_QuitOnClose, false);
+  setMinimumSize(smallestSize);
+  resize(initialSize);
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+
+  m_resizePause.setSingleShot(true);
+  m_resizePause.setInterval(300ms);
+  connect(&m_resizePause, &QTimer::timeout, this, &FloatingPanel::didEndLiveResize);
+
+  // The native window is made now, so that the first show has only to map it.
+  create();
+  m_edgeResizer = std::make_unique<WindowEdgeResizer>(*windowHandle());
+  connect(m_edgeResizer.get(), &WindowEdgeResizer::finished, this,
+          &FloatingPanel::didEndLiveResize);
+}
+
+FloatingPanel::~FloatingPanel() = default;
+
+void FloatingPanel::setContentView(std::unique_ptr<QWidget> content) {
+  layout()->addWidget(content.release());
+}
+
+void FloatingPanel::makeKeyAndOrderFront() {
+  if (!isVisible()) {
+    m_hasBeenSeen = false;
+    m_windowSystem.preparePanel(*windowHandle());
+  }
+  show();
+  m_windowSystem.activate(*windowHandle());
+}
+
+void FloatingPanel::orderOut() {
+  hide();
+}
+
+bool FloatingPanel::event(QEvent *event) {
+  if (event->type() == QEvent::WindowActivate) {
+    Q_EMIT didBecomeKey();
+  }
+  return QWidget::event(event);
+}
+
+void FloatingPanel::closeEvent(QCloseEvent *event) {
+  event->ignore();
+  Q_EMIT closeRequested();
+}
+
+void FloatingPanel::paintEvent(QPaintEvent * /*event*/) {
+  m_hasBeenSeen = true;
+}
+
+void FloatingPanel::resizeEvent(QResizeEvent *event) {
+  updateShape();
+  // Before the first picture it is the window manager that fits the window in, not the user.
+  if (event->spontaneous() && m_hasBeenSeen && !m_edgeResizer->isResizing()) {
+    m_resizePause.start();
+  }
+}
+
+void FloatingPanel::hideEvent(QHideEvent * /*event*/) {
+  m_isDragged = false;
+  if (m_resizePause.isActive()) {
+    m_resizePause.stop();
+    Q_EMIT didEndLiveResize();
+  }
+}
+
+void FloatingPanel::updateShape() {
+  QPainterPath outline;
+  outline.addRoundedRect(rect(), cornerRadius, cornerRadius);
+  setMask(QRegion(outline.toFillPolygon().toPolygon()));
+}
+
+// A press that no view wants reaches the window: it is the background.
+
+void FloatingPanel::mousePressEvent(QMouseEvent *event) {
+  m_isDragged = event->button() == Qt::LeftButton;
+  m_dragOffset = event->globalPosition().toPoint() - pos();
+}
+
+void FloatingPanel::mouseMoveEvent(QMouseEvent *event) {
+  if (m_isDragged) {
+    move(event->globalPosition().toPoint() - m_dragOffset);
+  }
+}
+
+void FloatingPanel::mouseReleaseEvent(QMouseEvent * /*event*/) {
+  m_isDragged = false;
+}
+
+}  // namespace lanternix

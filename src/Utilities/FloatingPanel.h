@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QtCore/QTimer>
+#include <QtWidgets/QWidget>
+
+#include <memory>
+
+namespace lanternix {
+
+class WindowEdgeResizer;
+class WindowSystem;
+
+/// The panel's window: without a frame, above other windows, on every desktop, in no list of
+/// windows. It is moved by its background and resized by its edges, never below 400 × 300. It is
+/// built once and only hidden, never closed.
+class FloatingPanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit FloatingPanel(WindowSystem &windowSystem);
+  ~FloatingPanel() override;
+
+  /// Fills the window with \p content and owns it.
+  void setContentView(std::unique_ptr<QWidget> content);
+
+  /// Shows the window in front of all others and gives it the keyboard. Only in answer to an action
+  /// of the user.
+  void makeKeyAndOrderFront();
+
+  /// Hides the window.
+  void orderOut();
+
+ Q_SIGNALS:
+  /// The window has got the keyboard.
+  void didBecomeKey();
+  /// The user has finished resizing the window.
+  void didEndLiveResize();
+  /// The window manager was asked to close the window, which stays as it is.
+  void closeRequested();
+
+ protected:
+  bool event(QEvent *event) override;
+  void closeEvent(QCloseEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+  void mousePressEvent(QMouseEvent *event) override;
+  void mouseMoveEvent(QMouseEvent *event) override;
+  void mouseReleaseEvent(QMouseEvent *event) override;
+
+ private:
+  void updateShape();
+
+  WindowSystem &m_windowSystem;
+  std::unique_ptr<WindowEdgeResizer> m_edgeResizer;
+  /// Runs while a resize that the window manager carries out is under way, which has no end of its
+  /// own that a program could see.
+  QTimer m_resizePause;
+  bool m_hasBeenSeen = false;
+  bool m_isDragged = false;
+  QPoint m_dragOffset;
+};
+
+}  // namespace lanternix

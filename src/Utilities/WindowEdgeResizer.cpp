@@ -1,0 +1,130 @@
+#include "Utilities/WindowEdgeResizer.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QWindow>
+
+namespace lanternix {
+
+namespace {
+
+constexpr int edgeWidth = 5;
+constexpr int cornerLength = 14;
+
+Qt::CursorShape cursorFor(Qt::Edges edges) {
+  if (edges == (Qt::TopEdge | Qt::LeftEdge) || edges == (Qt::BottomEdge | Qt::RightEdge)) {
+    return Qt::SizeFDiagCursor;
+  }
+  if (edges == (Qt::TopEdge | Qt::RightEdge) || edges == (Qt::BottomEdge | Qt::LeftEdge)) {
+    return Qt::SizeBDiagCursor;
+  }
+  return (edges & (Qt::LeftEdge | Qt::RightEdge)) != 0 ? Qt::SizeHorCursor : Qt::SizeVerCursor;
+}
+
+}  // namespace
+
+WindowEdgeResizer::WindowEdgeResizer(QWindow &window) : m_window(window) {
+  window.installEventFilter(this);
+}
+
+WindowEdgeResizer::~WindowEdgeResizer() {
+  showCursor({});
+}
+
+Qt::Edges WindowEdgeResizer::edgesAt(const QPoint &position) const {
+  const QSize size = m_window.size();
+  const auto edgesWithin = [&](int distance) {
+    Qt::Edges edges;
+    edges.setFlag(Qt::LeftEdge, position.x() < distance);
+    edges.setFlag(Qt::RightEdge, position.x() >= size.width() - distance);
+    edges.setFlag(Qt::TopEdge, position.y() < distance);
+    edges.setFlag(Qt::BottomEdge, position.y() >= size.height() - distance);
+    return edges;
+  };
+  // Along an edge, its ends count as the corner: a square of the edge's width is hard to hit.
+  return edgesWithin(edgeWidth) == Qt::Edges{} ? Qt::Edges{} : edgesWithin(cornerLength);
+}
+
+bool WindowEdgeResizer::eventFilter(QObject * /*watched*/, QEvent *event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+      return press(*static_cast<QMouseEvent *>(event));
+    case QEvent::MouseMove:
+      return move(*static_cast<QMouseEvent *>(event));
+    case QEvent::MouseButtonRelease:
+      return release(*static_cast<QMouseEvent *>(event));
+    case QEvent::Leave:
+    case QEvent::Hide:
+      m_resizing = m_resizing && event->type() != QEvent::Hide;
+      if (!m_resizing) {
+        showCursor({});
+      }
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool WindowEdgeResizer::press(const QMouseEvent &event) {
+  m_edges = edgesAt(event.position().toPoint());
+  if (event.button() != Qt::LeftButton || m_edges == Qt::Edges{}) {
+    return false;
+  }
+  m_resizing = true;
+  m_pressPosition = event.globalPosition().toPoint();
+  m_pressGeometry = m_window.geometry();
+  return true;
+}
+
+bool WindowEdgeResizer::move(const QMouseEvent &event) {
+  if (m_resizing) {
+    m_window.setGeometry(resized(event.globalPosition().toPoint() - m_pressPosition));
+    return true;
+  }
+  const Qt::Edges edges =
+      event.buttons() == Qt::NoButton ? edgesAt(event.position().toPoint()) : Qt::Edges{};
+  showCursor(edges);
+  return edges != Qt::Edges{};
+}
+
+bool WindowEdgeResizer::release(const QMouseEvent &event) {
+  if (!m_resizing || event.button() != Qt::LeftButton) {
+    return false;
+  }
+  m_resizing = false;
+  if (m_window.size() != m_pressGeometry.size()) {
+    Q_EMIT finished();
+  }
+  return true;
+}
+
+void WindowEdgeResizer::showCursor(Qt::Edges edges) {
+  const bool show = edges != Qt::Edges{};
+  if (show && m_showsCursor) {
+    QGuiApplication::changeOverrideCursor(cursorFor(edges));
+  } else if (show) {
+    QGuiApplication::setOverrideCursor(cursorFor(edges));
+  } else if (m_showsCursor) {
+    QGuiApplication::restoreOverrideCursor();
+  }
+  m_showsCursor = show;
+}
+
+QRect WindowEdgeResizer::resized(const QPoint &distance) const {
+  const QSize smallest = m_window.minimumSize();
+  QRect geometry = m_pressGeometry;
+  // The edge opposite to the one that is pulled stays where it is.
+  if (m_edges.testFlag(Qt::LeftEdge)) {
+    geometry.setLeft(qMin(geometry.left() + distance.x(), geometry.right() + 1 - smallest.width()));
+  } else if (m_edges.testFlag(Qt::RightEdge)) {
+    geometry.setWidth(qMax(geometry.width() + distance.x(), smallest.width()));
+  }
+  if (m_edges.testFlag(Qt::TopEdge)) {
+    geometry.setTop(qMin(geometry.top() + distance.y(), geometry.bottom() + 1 - smallest.height()));
+  } else if (m_edges.testFlag(Qt::BottomEdge)) {
+    geometry.setHeight(qMax(geometry.height() + distance.y(), smallest.height()));
+  }
+  return geometry;
+}
+
+}  // namespace lanternix

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QRect>
+
+class QMouseEvent;
+class QWindow;
+
+namespace lanternix {
+
+/// Lets the user resize a window without a frame by its edges and corners. It takes the mouse
+/// events along the edges before the window's own content sees them.
+class WindowEdgeResizer : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit WindowEdgeResizer(QWindow &window);
+  ~WindowEdgeResizer() override;
+
+  bool isResizing() const { return m_resizing; }
+
+  /// The edges at a position in the window, in logical pixels; none inside.
+  Qt::Edges edgesAt(const QPoint &position) const;
+
+ Q_SIGNALS:
+  /// The user has let go of an edge and the size has changed.
+  void finished();
+
+ protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+ private:
+  bool press(const QMouseEvent &event);
+  bool move(const QMouseEvent &event);
+  bool release(const QMouseEvent &event);
+  void showCursor(Qt::Edges edges);
+  QRect resized(const QPoint &distance) const;
+
+  QWindow &m_window;
+  bool m_resizing = false;
+  bool m_showsCursor = false;
+  Qt::Edges m_edges;
+  QPoint m_pressPosition;
+  QRect m_pressGeometry;
+};
+
+}  // namespace lanternix

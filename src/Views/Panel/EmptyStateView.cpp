@@ -1,0 +1,45 @@
+#include "Views/Panel/EmptyStateView.h"
+
+#include "Views/Style/Symbol.h"
+#include "Views/Style/SymbolLabel.h"
+#include "Views/Style/TextLabel.h"
+
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+EmptyStateView::EmptyStateView(QWidget *parent) : QWidget(parent) {
+  constexpr double markSide = 44;
+  auto *mark = new SymbolLabel(
+      u"arrow.triangle.branch"_s, markSide,
+      [](const QPalette &palette) { return fillColor(FillStyle::quaternary, palette); }, this);
+  auto *title = new TextLabel(u"No items yet"_s, TextStyle::title3, QFont::Medium,
+                              FillStyle::secondary, this);
+  auto *hint = new TextLabel(u"Open Settings to add groups and items"_s, TextStyle::subheadline,
+                             QFont::Normal, FillStyle::tertiary, this);
+  auto *button = new QPushButton(u"Open Settings"_s, this);
+  button->setFont(textFont(TextStyle::subheadline, QFont::Medium));
+  button->setIcon(Symbol::pixmap(u"gearshape"_s, button->iconSize().width(),
+                                 palette().color(QPalette::ButtonText), devicePixelRatioF()));
+  button->setFocusPolicy(Qt::TabFocus);
+  connect(button, &QAbstractButton::clicked, this, &EmptyStateView::settingsRequested);
+
+  auto *texts = new QVBoxLayout;
+  texts->setSpacing(6);
+  texts->addWidget(title, 0, Qt::AlignHCenter);
+  texts->addWidget(hint, 0, Qt::AlignHCenter);
+
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 20, 0, 20);
+  layout->setSpacing(16);
+  layout->addStretch();
+  layout->addWidget(mark, 0, Qt::AlignHCenter);
+  layout->addLayout(texts);
+  layout->addWidget(button, 0, Qt::AlignHCenter);
+  layout->addStretch();
+}
+
+}  // namespace lanternix

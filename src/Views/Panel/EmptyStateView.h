@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+namespace lanternix {
+
+/// What the panel says while there is nothing to list, with the way to change that.
+class EmptyStateView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit EmptyStateView(QWidget *parent = nullptr);
+
+ Q_SIGNALS:
+  void settingsRequested();
+};
+
+}  // namespace lanternix

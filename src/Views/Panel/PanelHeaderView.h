@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+namespace lanternix {
+
+/// The panel's top: the program's mark, its name and the settings button.
+class PanelHeaderView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit PanelHeaderView(QWidget *parent = nullptr);
+
+ Q_SIGNALS:
+  void settingsRequested();
+};
+
+}  // namespace lanternix

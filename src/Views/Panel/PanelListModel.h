@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Views/Panel/PanelRow.h"
+
+#include <QtCore/QAbstractListModel>
+#include <QtCore/QList>
+
+#include <optional>
+
+namespace lanternix {
+
+class AppState;
+struct PathGroup;
+struct PathItem;
+
+/// The rows of the panel's list: the recently opened items while nothing is searched, then each
+/// group the panel shows with, when it is expanded, its items. Rows only point into the store.
+class PanelListModel : public QAbstractListModel {
+  Q_OBJECT
+
+ public:
+  enum Role {
+    KindRole = Qt::UserRole,  ///< int, a PanelRow::Kind
+    IdRole,                   ///< QUuid of the row's item or group
+    CountRole,                ///< int, the items the panel shows in the row's group
+    ExpandedRole,             ///< bool, whether the row's group is unfolded
+  };
+
+  explicit PanelListModel(AppState &appState, QObject *parent = nullptr);
+
+  int rowCount(const QModelIndex &parent = {}) const override;
+  QVariant data(const QModelIndex &index, int role) const override;
+  QHash<int, QByteArray> roleNames() const override;
+
+  const QList<PanelRow> &rows() const { return m_rows; }
+
+  /// The item of an item row, the group of a group's row; null for rows of another kind.
+  const PathItem *itemAt(qsizetype row) const;
+  const PathGroup *groupAt(qsizetype row) const;
+
+  /// The first row that shows the item with this id; -1 when none does.
+  qsizetype rowOfItem(const QUuid &id) const;
+
+ private:
+  void rebuild();
+  QList<PanelRow> recentRows() const;
+  QList<PanelRow> groupRows() const;
+
+  AppState &m_appState;
+  QList<PanelRow> m_rows;
+};
+
+}  // namespace lanternix

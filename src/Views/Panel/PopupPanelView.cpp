@@ -1,0 +1,116 @@
+#include "Views/Panel/PopupPanelView.h"
+
+#include "App/AppState.h"
+#include "Views/Panel/EmptyStateView.h"
+#include "Views/Panel/NoResultsView.h"
+#include "Views/Panel/PanelFooterView.h"
+#include "Views/Panel/PanelHeaderView.h"
+#include "Views/Panel/PanelListModel.h"
+#include "Views/Panel/PanelListView.h"
+#include "Views/Panel/SearchBarView.h"
+#include "Views/Style/DividerLine.h"
+#include "Views/Style/FillStyle.h"
+#include "Views/Style/Symbol.h"
+#include "Views/Style/SymbolLabel.h"
+#include "Views/Style/TextStyle.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QStackedLayout>
+#include <QtWidgets/QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
+    : QWidget(parent),
+      m_appState(appState),
+      m_model(new PanelListModel(appState, this)),
+      m_list(new PanelListView(appState, *m_model, this)),
+      m_searchBar(new SearchBarView(appState, this)),
+      m_emptyState(new EmptyStateView(this)),
+      m_noResults(new NoResultsView(this)),
+      m_messages(new QScrollArea(this)),
+      m_body(new QStackedLayout) {
+  auto *header = new PanelHeaderView(this);
+  connect(header, &PanelHeaderView::settingsRequested, this, &PopupPanelView::openSettings);
+  connect(m_emptyState, &EmptyStateView::settingsRequested, this, &PopupPanelView::openSettings);
+
+  m_body->addWidget(m_list);
+  m_body->addWidget(makeMessages());
+
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(header);
+  layout->addWidget(makeSearchRow());
+  layout->addWidget(new DividerLine(this));
+  layout->addLayout(m_body, 1);
+  layout->addWidget(new DividerLine(this));
+  layout->addWidget(new PanelFooterView(appState, this));
+
+  connect(m_model, &QAbstractItemModel::modelReset, this, &PopupPanelView::updateMessages);
+  updateMessages();
+}
+
+QWidget *PopupPanelView::makeSearchRow() {
+  auto *row = new QWidget(this);
+  auto *layout = new QHBoxLayout(row);
+  layout->setContentsMargins(20, 0, 20, 14);
+  layout->setSpacing(10);
+  layout->addWidget(new SymbolLabel(
+      u"magnifyingglass"_s, Symbol::sideFor(textFont(TextStyle::title3)),
+      [](const QPalette &palette) { return fillColor(FillStyle::secondary, palette); }, row));
+  layout->addWidget(m_searchBar, 1);
+  return row;
+}
+
+QWidget *PopupPanelView::makeMessages() {
+  auto *content = new QWidget;
+  auto *layout = new QVBoxLayout(content);
+  layout->setContentsMargins(0, 10, 0, 10);
+  layout->setSpacing(4);
+  layout->addWidget(m_emptyState);
+  layout->addWidget(m_noResults);
+  layout->addStretch();
+  m_messages->setWidget(content);
+  m_messages->setWidgetResizable(true);
+  m_messages->setFrameShape(QFrame::NoFrame);
+  m_messages->setFocusPolicy(Qt::NoFocus);
+  m_messages->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  m_messages->viewport()->setAutoFillBackground(false);
+  content->setAutoFillBackground(false);
+  return m_messages;
+}
+
+void PopupPanelView::updateMessages() {
+  // Two tests of their own: a search that finds nothing while no recent items are on show leaves
+  // both messages, one above the other.
+  const bool nothingFiltered = m_appState.filteredGroupPositions().empty();
+  const bool showsRecent =
+      m_appState.showRecentItems() && !m_appState.recentItemPositions().empty();
+  const bool empty = nothingFiltered && !showsRecent;
+  const bool noResults = nothingFiltered && !m_appState.searchQuery().isEmpty();
+  m_emptyState->setVisible(empty);
+  m_noResults->setVisible(noResults);
+  m_body->setCurrentWidget(empty || noResults ? static_cast<QWidget *>(m_messages) : m_list);
+}
+
+void PopupPanelView::openSettings() {
+  m_appState.hidePanel();
+  if (m_appState.onOpenSettings) {
+    m_appState.onOpenSettings();
+  }
+}
+
+void PopupPanelView::focusSearch() {
+  m_searchBar->focusField();
+}
+
+void PopupPanelView::paintEvent(QPaintEvent * /*event*/) {
+  QPainter(this).fillRect(rect(), palette().color(QPalette::Window));
+}
+
+}  // namespace lanternix

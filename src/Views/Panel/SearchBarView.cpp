@@ -1,0 +1,70 @@
+#include "Views/Panel/SearchBarView.h"
+
+#include "App/AppState.h"
+#include "Views/Style/SymbolButton.h"
+
+#include <QtCore/QEvent>
+#include <QtCore/QSignalBlocker>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+SearchBarView::SearchBarView(AppState &appState, QWidget *parent)
+    : QWidget(parent),
+      m_appState(appState),
+      m_field(new QLineEdit(this)),
+      m_clearButton(new SymbolButton(u"xmark.circle.fill"_s, TextStyle::body, FillStyle::secondary,
+                                     u"Clear Search"_s, this)) {
+  m_field->setPlaceholderText(u"Search... or group: query to scope"_s);
+  m_field->setAccessibleName(u"Search"_s);
+  m_field->setFrame(false);
+  m_field->setTextMargins(0, 0, 0, 0);
+  QPalette clear = m_field->palette();
+  clear.setColor(QPalette::Base, Qt::transparent);
+  m_field->setPalette(clear);
+  updateFont();
+  setFocusProxy(m_field);
+
+  auto *layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(m_field, 1);
+  layout->addWidget(m_clearButton);
+
+  connect(m_field, &QLineEdit::textChanged, &m_appState, &AppState::setSearchQuery);
+  connect(m_field, &QLineEdit::returnPressed, &m_appState, &AppState::openSelectedOrFirstItem);
+  // The button keeps out of the focus, so that typing goes on after a click on it.
+  m_clearButton->setFocusPolicy(Qt::NoFocus);
+  connect(m_clearButton, &QAbstractButton::clicked, &m_appState,
+          [this] { m_appState.setSearchQuery({}); });
+  connect(&m_appState, &AppState::searchQueryChanged, this, &SearchBarView::readQuery);
+  readQuery();
+}
+
+void SearchBarView::focusField() {
+  m_field->setFocus(Qt::ActiveWindowFocusReason);
+}
+
+void SearchBarView::readQuery() {
+  // Setting an unchanged text would move the cursor to its end.
+  if (m_field->text() != m_appState.searchQuery()) {
+    const QSignalBlocker blocker(m_field);
+    m_field->setText(m_appState.searchQuery());
+  }
+  m_clearButton->setVisible(!m_appState.searchQuery().isEmpty());
+}
+
+void SearchBarView::updateFont() {
+  m_field->setFont(textFont(TextStyle::title3));
+}
+
+void SearchBarView::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::ApplicationFontChange) {
+    updateFont();
+  }
+  QWidget::changeEvent(event);
+}
+
+}  // namespace lanternix

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+class QLineEdit;
+
+namespace lanternix {
+
+class AppState;
+class SymbolButton;
+
+/// The search field: its text is the store's query, both ways and at once. A clear button stands
+/// beside it while there is text.
+class SearchBarView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SearchBarView(AppState &appState, QWidget *parent = nullptr);
+
+  /// Gives the keyboard to the field.
+  void focusField();
+
+ protected:
+  void changeEvent(QEvent *event) override;
+
+ private:
+  void updateFont();
+  void readQuery();
+
+  AppState &m_appState;
+  QLineEdit *m_field;
+  SymbolButton *m_clearButton;
+};
+
+}  // namespace lanternix

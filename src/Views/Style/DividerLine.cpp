@@ -1,0 +1,17 @@
+#include "Views/Style/DividerLine.h"
+
+#include "Views/Style/FillStyle.h"
+
+#include <QtGui/QPainter>
+
+namespace lanternix {
+
+DividerLine::DividerLine(QWidget *parent) : QWidget(parent) {
+  setFixedHeight(1);
+}
+
+void DividerLine::paintEvent(QPaintEvent * /*event*/) {
+  QPainter(this).fillRect(rect(), fillColor(FillStyle::quaternary, palette()));
+}
+
+}  // namespace lanternix

@@ -1,0 +1,41 @@
+#include "Views/Style/SymbolButton.h"
+
+#include "Views/Style/Symbol.h"
+
+#include <QtGui/QPainter>
+
+#include <utility>
+
+namespace lanternix {
+
+SymbolButton::SymbolButton(QString symbol, TextStyle size, FillStyle fill, const QString &name,
+                           QWidget *parent)
+    : QAbstractButton(parent), m_symbol(std::move(symbol)), m_size(size), m_fill(fill) {
+  setAccessibleName(name);
+  setToolTip(name);
+  setCursor(Qt::ArrowCursor);
+  setFocusPolicy(Qt::TabFocus);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+double SymbolButton::side() const {
+  return Symbol::sideFor(textFont(m_size));
+}
+
+QSize SymbolButton::sizeHint() const {
+  const int extent = qCeil(side()) + 4;
+  return {extent, extent};
+}
+
+void SymbolButton::paintEvent(QPaintEvent * /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const FillStyle fill = isDown() ? FillStyle::primary : m_fill;
+  Symbol::draw(painter, rect(), m_symbol, side(), fillColor(fill, palette()));
+  if (hasFocus()) {
+    painter.setPen(palette().color(QPalette::Highlight));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+  }
+}
+
+}  // namespace lanternix

@@ -1,0 +1,211 @@
+#include "App/AppDelegate.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+
+#include "Platform/GlobalMouseMonitor.h"
+#include "Platform/Linux/QtWindowSystem.h"
+#include "Services/Preferences.h"
+#include "Utilities/FloatingPanel.h"
+#include "Views/Panel/PopupPanelView.h"
+#include "views/ViewTest.h"
+
+namespace lanternix {
+
+namespace {
+
+/// Presses that a test makes itself.
+class FakeMouseMonitor final : public GlobalMouseMonitor {
+ public:
+  void setActive(bool active) override { isActive = active; }
+  void press() {
+    if (isActive) {
+      Q_EMIT pressedOutside();
+    }
+  }
+
+  bool isActive = false;
+};
+
+class AppDelegateTest : public ViewTest {
+ protected:
+  /// Starts the program's own logic and shows the panel.
+  void start() {
+    writeData({work}, {report, notes});
+    delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor);
+    delegate->applicationDidFinishLaunching();
+    delegate->showPanel();
+    ASSERT_NE(panel(), nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(panel()));
+  }
+
+  static FloatingPanel *panel() {
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+      if (auto *found = qobject_cast<FloatingPanel *>(widget)) {
+        return found;
+      }
+    }
+    return nullptr;
+  }
+
+  /// Presses the key at an X key code that means an X key symbol, as a keyboard would.
+  static void press(quint32 keyCode, quint32 keySymbol, Qt::KeyboardModifiers modifiers = {},
+                    Qt::Key key = Qt::Key_unknown, const QString &text = {}) {
+    QKeyEvent event(QEvent::KeyPress, key, modifiers, keyCode, keySymbol, 0, text);
+    QCoreApplication::sendEvent(panel()->windowHandle(), &event);
+  }
+  static void pressEscape() { press(9, 0xff1b, {}, Qt::Key_Escape); }
+  static void pressDown() { press(116, 0xff54, {}, Qt::Key_Down); }
+  static void pressUp() { press(111, 0xff52, {}, Qt::Key_Up); }
+  static void pressReturn(Qt::KeyboardModifiers modifiers = {}) {
+    press(36, 0xff0d, modifiers, Qt::Key_Return);
+  }
+  static void pressComma(Qt::KeyboardModifiers modifiers) {
+    press(59, ',', modifiers, Qt::Key_Comma, QStringLiteral(","));
+  }
+
+  static QRect workArea() { return QGuiApplication::primaryScreen()->availableGeometry(); }
+
+  PathGroup work = group(QStringLiteral("Work"));
+  PathItem report = item(QStringLiteral("Report"), work, 0, QStringLiteral("make report"));
+  PathItem notes = item(QStringLiteral("Notes"), work, 1, QStringLiteral("edit notes"));
+  QtWindowSystem windowSystem;
+  FakeMouseMonitor mouseMonitor;
+  std::unique_ptr<AppDelegate> delegate;
+};
+
+}  // namespace
+
+TEST_F(AppDelegateTest, ThePanel_ShowsItselfAfterTheStart) {
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor);
+  delegate->applicationDidFinishLaunching();
+  EXPECT_FALSE(panel()->isVisible());
+  EXPECT_TRUE(QTest::qWaitFor([] { return panel()->isVisible(); }));
+  EXPECT_TRUE(delegate->appState().isPanelVisible());
+}
+
+TEST_F(AppDelegateTest, BeforeTheStart_ThereIsNothingToShow) {
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor);
+  delegate->showPanel();
+  EXPECT_EQ(panel(), nullptr);
+  EXPECT_FALSE(delegate->appState().isPanelVisible());
+}
+
+TEST_F(AppDelegateTest, WithoutAStoredSize_ThePanelIs700By500_SixtyPixelsAboveTheCentre) {
+  start();
+  const QPoint centre = workArea().center() + QPoint(1, 1);
+  EXPECT_EQ(panel()->geometry(), QRect(centre.x() - 350, centre.y() - 250 - 60, 700, 500));
+}
+
+TEST_F(AppDelegateTest, AStoredSize_IsUsedPerDimension) {
+  userDefaults.setReal(350, Preferences::panelWidth.key);
+  userDefaults.setReal(420, Preferences::panelHeight.key);
+  start();
+  EXPECT_EQ(panel()->size(), QSize(700, 420));
+}
+
+TEST_F(AppDelegateTest, AStoredSizeAtTheFloor_IsKept_AndBelowIsNot) {
+  userDefaults.setReal(400, Preferences::panelWidth.key);
+  userDefaults.setReal(299.5, Preferences::panelHeight.key);
+  start();
+  EXPECT_EQ(panel()->size(), QSize(400, 500));
+}
+
+TEST_F(AppDelegateTest, AnAbsurdStoredSize_DoesNotHangOverTheScreen) {
+  userDefaults.setReal(1e12, Preferences::panelWidth.key);
+  userDefaults.setReal(1e12, Preferences::panelHeight.key);
+  start();
+  EXPECT_EQ(panel()->geometry(), workArea());
+}
+
+TEST_F(AppDelegateTest, AfterAResize_TheNextShowUsesTheSizeAndRecentres) {
+  start();
+  panel()->setGeometry(0, 0, 620, 410);
+  Q_EMIT panel()->didEndLiveResize();
+  delegate->appState().hidePanel();
+  delegate->showPanel();
+  const QPoint centre = workArea().center() + QPoint(1, 1);
+  EXPECT_EQ(panel()->geometry(), QRect(centre.x() - 310, centre.y() - 205 - 60, 620, 410));
+}
+
+TEST_F(AppDelegateTest, TheShortcut_HidesAndShows) {
+  start();
+  hotkeyRegistrar.press();
+  EXPECT_TRUE(QTest::qWaitFor([] { return !panel()->isVisible(); }));
+  hotkeyRegistrar.press();
+  EXPECT_TRUE(QTest::qWaitFor([] { return panel()->isVisible(); }));
+}
+
+TEST_F(AppDelegateTest, Escape_HidesAndClearsSearchAndSelection) {
+  start();
+  delegate->appState().setSearchQuery(QStringLiteral("rep"));
+  pressEscape();
+  EXPECT_FALSE(panel()->isVisible());
+  EXPECT_FALSE(delegate->appState().isPanelVisible());
+  EXPECT_EQ(delegate->appState().searchQuery(), QString());
+  EXPECT_FALSE(delegate->appState().selectedItemId().has_value());
+}
+
+TEST_F(AppDelegateTest, TheArrows_MoveTheSelectionRoundTheEnds) {
+  start();
+  pressUp();
+  EXPECT_EQ(delegate->appState().selectedItemId(), notes.id);
+  pressDown();
+  EXPECT_EQ(delegate->appState().selectedItemId(), report.id);
+}
+
+TEST_F(AppDelegateTest, Return_OpensTheSelectedItem_WhateverTheModifiers) {
+  start();
+  pressDown();
+  pressDown();
+  pressReturn(Qt::ShiftModifier);
+  EXPECT_EQ(processLauncher.launches, QStringList(QStringLiteral("/bin/sh -c edit notes")));
+  EXPECT_FALSE(panel()->isVisible());
+}
+
+TEST_F(AppDelegateTest, CommandComma_HidesThePanelAndOpensTheSettings) {
+  start();
+  int opened_ = 0;
+  delegate->appState().onOpenSettings = [&] { ++opened_; };
+  pressComma(Qt::MetaModifier);
+  EXPECT_FALSE(panel()->isVisible());
+  delegate->showPanel();
+  pressComma(Qt::ControlModifier);
+  EXPECT_FALSE(panel()->isVisible());
+  EXPECT_EQ(opened_, 2);
+}
+
+TEST_F(AppDelegateTest, CommandComma_WithoutSettings_OnlyHidesThePanel) {
+  start();
+  pressComma(Qt::MetaModifier);
+  EXPECT_FALSE(panel()->isVisible());
+}
+
+TEST_F(AppDelegateTest, APlainComma_IsTyped) {
+  start();
+  panel()->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(panel()));
+  pressComma({});
+  EXPECT_TRUE(panel()->isVisible());
+  EXPECT_EQ(delegate->appState().searchQuery(), QStringLiteral(","));
+}
+
+TEST_F(AppDelegateTest, APressOutside_HidesThePanel) {
+  start();
+  EXPECT_TRUE(mouseMonitor.isActive);
+  mouseMonitor.press();
+  EXPECT_FALSE(panel()->isVisible());
+  EXPECT_FALSE(mouseMonitor.isActive) << "nothing may wake the program while the panel is hidden";
+}
+
+TEST_F(AppDelegateTest, AClosedPanel_IsAHiddenOne) {
+  start();
+  panel()->close();
+  EXPECT_FALSE(panel()->isVisible());
+  EXPECT_FALSE(delegate->appState().isPanelVisible());
+}
+
+}  // namespace lanternix

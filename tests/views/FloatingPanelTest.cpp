@@ -1,0 +1,76 @@
+#include "Utilities/FloatingPanel.h"
+
+#include <gtest/gtest.h>
+
+#include <QtGui/QWindow>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include "Platform/Linux/QtWindowSystem.h"
+#include "Utilities/WindowEdgeResizer.h"
+
+namespace lanternix {
+
+namespace {
+
+class FloatingPanelTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    panel.setGeometry(100, 50, 500, 400);
+    panel.makeKeyAndOrderFront();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+  }
+
+  void drag(const QPoint &from, const QPoint &distance) {
+    QWindow *window = panel.windowHandle();
+    QTest::mousePress(window, Qt::LeftButton, {}, from);
+    // Positions are the window's own, and the window may move along with the pointer.
+    const QPoint target = window->mapToGlobal(from) + distance;
+    QTest::mouseMove(window, window->mapFromGlobal(target));
+    QTest::mouseRelease(window, Qt::LeftButton, {}, window->mapFromGlobal(target));
+    QCoreApplication::processEvents();
+  }
+
+  QtWindowSystem windowSystem;
+  FloatingPanel panel{windowSystem};
+};
+
+}  // namespace
+
+TEST_F(FloatingPanelTest, StartsInItsUsualSize) {
+  const FloatingPanel fresh(windowSystem);
+  EXPECT_EQ(fresh.size(), QSize(700, 500));
+}
+
+TEST_F(FloatingPanelTest, IsResizedByItsCorner) {
+  const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
+  drag({498, 398}, {60, 40});
+  EXPECT_EQ(panel.geometry(), QRect(100, 50, 560, 440));
+  EXPECT_EQ(resized.count(), 1);
+}
+
+TEST_F(FloatingPanelTest, ItsLeftEdge_LeavesTheRightOneWhereItIs) {
+  drag({1, 200}, {40, 0});
+  EXPECT_EQ(panel.geometry(), QRect(140, 50, 460, 400));
+}
+
+TEST_F(FloatingPanelTest, CannotBeShrunkBelow400By300) {
+  drag({1, 1}, {300, 300});
+  EXPECT_EQ(panel.geometry(), QRect(200, 150, 400, 300));
+}
+
+TEST_F(FloatingPanelTest, IsMovedByItsBackground) {
+  const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
+  drag({250, 200}, {30, 20});
+  EXPECT_EQ(panel.geometry(), QRect(130, 70, 500, 400));
+  EXPECT_EQ(resized.count(), 0);
+}
+
+TEST_F(FloatingPanelTest, IsNotClosedByTheWindowManager) {
+  const QSignalSpy asked(&panel, &FloatingPanel::closeRequested);
+  EXPECT_FALSE(panel.close());
+  EXPECT_TRUE(panel.isVisible());
+  EXPECT_EQ(asked.count(), 1);
+}
+
+}  // namespace lanternix

@@ -1,0 +1,135 @@
+#include "Views/Panel/PopupPanelView.h"
+
+#include <QtTest/QTest>
+#include <QtWidgets/QPushButton>
+
+#include "Views/Panel/EmptyStateView.h"
+#include "Views/Panel/KeyHintView.h"
+#include "Views/Panel/NoResultsView.h"
+#include "Views/Panel/PanelFooterView.h"
+#include "Views/Panel/PanelListView.h"
+#include "Views/Panel/ScopeBadgeView.h"
+#include "Views/Style/SymbolButton.h"
+#include "Views/Style/TextLabel.h"
+#include "views/ViewTest.h"
+
+namespace lanternix {
+
+namespace {
+
+class PopupPanelViewTest : public ViewTest {
+ protected:
+  void show(const QList<PathGroup> &groups, const QList<PathItem> &items) {
+    state = makeState(groups, items);
+    view = std::make_unique<PopupPanelView>(*state);
+    view->resize(700, 500);
+    view->show();
+  }
+
+  bool showsEmptyState() const { return view->findChild<EmptyStateView *>()->isVisible(); }
+  bool showsNoResults() const { return view->findChild<NoResultsView *>()->isVisible(); }
+  bool showsList() const { return view->findChild<PanelListView *>()->isVisible(); }
+  ScopeBadgeView *badge() const { return view->findChild<ScopeBadgeView *>(); }
+  QString count() const {
+    return view->findChild<PanelFooterView *>()->findChild<TextLabel *>()->text();
+  }
+
+  PathGroup work = group(QStringLiteral("Work"), 0);
+  PathGroup home_ = group(QStringLiteral("Home"), 1);
+  PathItem report = item(QStringLiteral("Report"), work);
+  std::unique_ptr<AppState> state;
+  std::unique_ptr<PopupPanelView> view;
+};
+
+}  // namespace
+
+TEST_F(PopupPanelViewTest, WithoutGroups_ShowsTheEmptyStateAndCountsNothing) {
+  show({}, {});
+  EXPECT_TRUE(showsEmptyState());
+  EXPECT_FALSE(showsNoResults());
+  EXPECT_FALSE(showsList());
+  EXPECT_EQ(count(), QStringLiteral("0 items"));
+}
+
+TEST_F(PopupPanelViewTest, ASearchWithoutMatches_WithRecentItemsHidden_ShowsBothMessages) {
+  show({work}, {opened(report, 1)});
+  state->setShowRecentItems(false);
+  state->setSearchQuery(QStringLiteral("zebra"));
+  EXPECT_TRUE(showsEmptyState());
+  EXPECT_TRUE(showsNoResults());
+}
+
+TEST_F(PopupPanelViewTest, ASearchWithoutMatches_WithRecentItems_ShowsOnlyNoResults) {
+  show({work}, {opened(report, 1)});
+  state->setSearchQuery(QStringLiteral("zebra"));
+  EXPECT_FALSE(showsEmptyState());
+  EXPECT_TRUE(showsNoResults());
+}
+
+TEST_F(PopupPanelViewTest, AGroupWithoutItems_IsNotTheEmptyState) {
+  show({work}, {});
+  EXPECT_TRUE(showsList());
+  EXPECT_FALSE(showsEmptyState());
+}
+
+TEST_F(PopupPanelViewTest, RecentItemsWithoutGroups_AreNotTheEmptyState) {
+  show({}, {opened(report, 1)});
+  EXPECT_TRUE(showsList());
+}
+
+TEST_F(PopupPanelViewTest, TheFirstGroup_TakesThePlaceOfTheEmptyState) {
+  show({}, {});
+  state->addGroup(work);
+  EXPECT_TRUE(showsList());
+  EXPECT_FALSE(showsEmptyState());
+}
+
+TEST_F(PopupPanelViewTest, TheScopeBadge_NamesTheScopedGroups) {
+  PathGroup first = group(QStringLiteral("Work at home"), 1);
+  PathGroup second = group(QStringLiteral("Homework"), 0);
+  show({first, second}, {});
+  EXPECT_FALSE(badge()->isVisible());
+  state->setSearchQuery(QStringLiteral("home:"));
+  EXPECT_TRUE(badge()->isVisible());
+  EXPECT_EQ(badge()->names(), QStringLiteral("Work at home, Homework"));
+  state->setSearchQuery(QStringLiteral("home"));
+  EXPECT_FALSE(badge()->isVisible());
+}
+
+TEST_F(PopupPanelViewTest, TheCount_IsOfAllItems_AlsoWhileSearching) {
+  show({work}, {report, item(QStringLiteral("Notes"), work, 1)});
+  state->setSearchQuery(QStringLiteral("rep"));
+  EXPECT_EQ(count(), QStringLiteral("2 items"));
+  state->deleteItem(report.id);
+  EXPECT_EQ(count(), QStringLiteral("1 items"));
+}
+
+TEST_F(PopupPanelViewTest, TheFooter_NamesTheShortcutInForce) {
+  show({}, {});
+  const auto hints = view->findChildren<KeyHintView *>();
+  ASSERT_EQ(hints.size(), 2);
+  EXPECT_EQ(hints[0]->accessibleName(), QStringLiteral("esc close"));
+  EXPECT_EQ(hints[1]->accessibleName(), QStringLiteral("⇧⌘Space toggle"));
+  state->hotkeyService().setCurrentShortcut({40, HotkeyShortcut::control});
+  EXPECT_EQ(hints[1]->accessibleName(), QStringLiteral("⌃K toggle"));
+}
+
+TEST_F(PopupPanelViewTest, BothSettingsButtons_HideThePanelAndOpenTheSettings) {
+  show({}, {});
+  int hidden = 0;
+  int opened_ = 0;
+  state->onHide = [&] { ++hidden; };
+  state->onOpenSettings = [&] { ++opened_; };
+  QTest::mouseClick(view->findChild<QPushButton *>(), Qt::LeftButton);
+  EXPECT_EQ(hidden, 1);
+  EXPECT_EQ(opened_, 1);
+  for (SymbolButton *button : view->findChildren<SymbolButton *>()) {
+    if (button->toolTip() == QStringLiteral("Settings")) {
+      QTest::mouseClick(button, Qt::LeftButton);
+    }
+  }
+  EXPECT_EQ(hidden, 2);
+  EXPECT_EQ(opened_, 2);
+}
+
+}  // namespace lanternix

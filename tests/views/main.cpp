@@ -1,0 +1,11 @@
+#include <gtest/gtest.h>
+
+#include <QtWidgets/QApplication>
+
+int main(int argc, char **argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication::setStyle(QStringLiteral("Fusion"));
+  const QApplication application(argc, argv);
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}

@@ -8,7 +8,9 @@
 #include <memory>
 #include <signal.h>
 #include <spawn.h>
+extern "C" {
 #include <sys/pidfd.h>
+}
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>

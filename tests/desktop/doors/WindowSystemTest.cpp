@@ -55,11 +55,10 @@ class X11WindowSystemTest : public testing::Test {
 
 class ManagedX11WindowSystemTest : public X11WindowSystemTest {
  protected:
-  /// Everything that the window manager is to know of a panel.
+  /// What this window manager leaves of a panel's marks: it knows stickiness as a desktop alone.
   bool isMarkedAsPanel() const {
     const QStringList states = windows.states(native());
     return states.contains(u"_NET_WM_STATE_ABOVE"_s) &&
-           states.contains(u"_NET_WM_STATE_STICKY"_s) &&
            states.contains(u"_NET_WM_STATE_SKIP_TASKBAR"_s) &&
            states.contains(u"_NET_WM_STATE_SKIP_PAGER"_s) &&
            windows.desktop(native()) == 0xFFFFFFFF && windows.isViewable(native());

@@ -1,10 +1,10 @@
 #include "Services/HotkeyShortcut.h"
 
-#include <gtest/gtest.h>
-
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 #include <QtCore/QStringList>
+
+#include <gtest/gtest.h>
 #include <limits>
 
 namespace lanternix {
@@ -17,7 +17,9 @@ constexpr quint32 keyK = 40;
 constexpr quint32 upArrow = 126;
 constexpr quint32 capsLockBit = 0x10000;
 
-QString nameOf(quint32 keyCode) { return Shortcut{keyCode, 0}.displayString(); }
+QString nameOf(quint32 keyCode) {
+  return Shortcut{keyCode, 0}.displayString();
+}
 
 TEST(HotkeyShortcut, Default_IsShiftCommandSpace) {
   EXPECT_EQ(Shortcut().displayString(), u"⇧⌘Space"_s);
@@ -36,9 +38,9 @@ TEST(HotkeyShortcut, CarbonModifiers_MapEachModifier) {
 }
 
 TEST(HotkeyShortcut, DisplayString_OrdersModifiersAlwaysAlike) {
-  EXPECT_EQ((Shortcut{keyK, Shortcut::command | Shortcut::shift | Shortcut::control}
-                 .displayString()),
-            u"⌃⇧⌘K"_s);
+  EXPECT_EQ(
+      (Shortcut{keyK, Shortcut::command | Shortcut::shift | Shortcut::control}.displayString()),
+      u"⌃⇧⌘K"_s);
   EXPECT_EQ((Shortcut{keyK, Shortcut::allModifiers}.displayString()), u"⌃⌥⇧⌘K"_s);
 }
 
@@ -64,8 +66,8 @@ TEST(HotkeyShortcut, SpecialKeys_HaveTheirSymbols) {
 }
 
 TEST(HotkeyShortcut, Letters_HaveUpperCaseNames) {
-  constexpr quint32 codes[] = {0,  11, 8,  2,  14, 3,  5, 4,  34, 38, 40, 37, 46,
-                               45, 31, 35, 12, 15, 1,  17, 32, 9,  13, 7,  16, 6};
+  constexpr quint32 codes[] = {0,  11, 8,  2,  14, 3, 5,  4,  34, 38, 40, 37, 46,
+                               45, 31, 35, 12, 15, 1, 17, 32, 9,  13, 7,  16, 6};
   QString names;
   for (const quint32 code : codes) {
     names += nameOf(code);
@@ -138,7 +140,9 @@ TEST(HotkeyShortcut, Decoded_TakesAnyKeyOrderAndIgnoresForeignKeys) {
 
 class UndecodableShortcut : public testing::TestWithParam<const char *> {};
 
-TEST_P(UndecodableShortcut, GivesNone) { EXPECT_EQ(Shortcut::decoded(GetParam()), std::nullopt); }
+TEST_P(UndecodableShortcut, GivesNone) {
+  EXPECT_EQ(Shortcut::decoded(GetParam()), std::nullopt);
+}
 
 INSTANTIATE_TEST_SUITE_P(
     HotkeyShortcut, UndecodableShortcut,

@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
 #include <set>
 #include <vector>
 
@@ -67,23 +66,23 @@ TEST(KeyCodes, Symbols_AreUnique) {
 
 TEST(KeyCodes, EveryKeyWithAName_IsInTheTable) {
   EXPECT_THAT(virtualCodes(),
-              testing::IsSupersetOf(
-                  {49U, 36U, 48U, 51U,  53U, 0U,  11U, 8U,   2U,  14U, 3U,   5U,  4U,
-                   34U, 38U, 40U, 37U,  46U, 45U, 31U, 35U,  12U, 15U, 1U,   17U, 32U,
-                   9U,  13U, 7U,  16U,  6U,  29U, 18U, 19U,  20U, 21U, 23U,  22U, 26U,
-                   28U, 25U, 122U, 120U, 99U, 118U, 96U, 97U, 98U, 100U, 101U, 109U, 103U,
-                   111U, 27U, 24U, 33U, 30U, 41U, 39U, 43U,  47U, 44U, 42U,  50U}));
+              testing::IsSupersetOf({49U,  36U, 48U, 51U, 53U,  0U,   11U,  8U,   2U,   14U,  3U,
+                                     5U,   4U,  34U, 38U, 40U,  37U,  46U,  45U,  31U,  35U,  12U,
+                                     15U,  1U,  17U, 32U, 9U,   13U,  7U,   16U,  6U,   29U,  18U,
+                                     19U,  20U, 21U, 23U, 22U,  26U,  28U,  25U,  122U, 120U, 99U,
+                                     118U, 96U, 97U, 98U, 100U, 101U, 109U, 103U, 111U, 27U,  24U,
+                                     33U,  30U, 41U, 39U, 43U,  47U,  44U,  42U,  50U}));
 }
 
 TEST(KeyCodes, EveryKeyWithoutAName_IsInTheTable) {
-  EXPECT_THAT(virtualCodes(),
-              testing::IsSupersetOf({123U, 124U, 125U, 126U, 115U, 119U, 116U, 121U, 117U,  // arrows
-                                     114U,                                                  // insert
-                                     105U, 107U, 113U, 106U, 64U,  79U,  80U,  90U,  // F13 ...
-                                     82U,  83U,  84U,  85U,  86U,  87U,  88U,  89U,  91U, 92U,
-                                     65U,  67U,  69U,  71U,  75U,  76U,  78U,  81U,  // keypad
-                                     10U,  93U,  94U,  95U,  102U, 104U,             // ISO, JIS
-                                     72U,  73U,  74U}));                             // volume
+  EXPECT_THAT(virtualCodes(), testing::IsSupersetOf(
+                                  {123U, 124U, 125U, 126U, 115U, 119U, 116U, 121U, 117U,  // arrows
+                                   114U,                                                  // insert
+                                   105U, 107U, 113U, 106U, 64U,  79U,  80U,  90U,         // F13 ...
+                                   82U,  83U,  84U,  85U,  86U,  87U,  88U,  89U,  91U,
+                                   92U,  65U,  67U,  69U,  71U,  75U,  76U,  78U,  81U,  // keypad
+                                   10U,  93U,  94U,  95U,  102U, 104U,                   // ISO, JIS
+                                   72U,  73U,  74U}));                                   // volume
 }
 
 TEST(KeyCodes, UnknownVirtualCode_HasNoKey) {
@@ -124,7 +123,9 @@ TEST(KeyCodes, TabAndSpaceWithShift_AreStillThemselves) {
   EXPECT_EQ(virtualCodeForPress(spacePosition, XK_nobreakspace), space);
 }
 
-TEST(KeyCodes, Help_IsInsert) { EXPECT_EQ(virtualCodeForPress(146, XK_Help), 114U); }
+TEST(KeyCodes, Help_IsInsert) {
+  EXPECT_EQ(virtualCodeForPress(146, XK_Help), 114U);
+}
 
 TEST(KeyCodes, FunctionKeyWithItsUsualMediaSymbol_IsTheFunctionKey) {
   EXPECT_EQ(virtualCodeForPress(f13Position, XF86XK_Tools), 105U);

@@ -28,7 +28,9 @@ XInputMouseMonitor::XInputMouseMonitor(const X11Server &server, X11EventTime &ev
   QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
-XInputMouseMonitor::~XInputMouseMonitor() { setActive(false); }
+XInputMouseMonitor::~XInputMouseMonitor() {
+  setActive(false);
+}
 
 void XInputMouseMonitor::setActive(bool active) {
   if (!m_opcode) {

@@ -32,7 +32,9 @@ class SpawnSettings {
     sigset_t signals;
     sigemptyset(&signals);
     posix_spawnattr_setsigmask(&m_attributes, &signals);
-    sigfillset(&signals);
+    // Not sigfillset, which leaves out the signals that the C library keeps for itself: the child
+    // would start with those ignored.
+    std::memset(&signals, 0xff, sizeof signals);
     posix_spawnattr_setsigdefault(&m_attributes, &signals);
   }
   ~SpawnSettings() {

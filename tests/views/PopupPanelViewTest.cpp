@@ -1,17 +1,16 @@
-#include "Views/Panel/PopupPanelView.h"
-
-#include <QtTest/QTest>
-#include <QtWidgets/QPushButton>
-
 #include "Views/Panel/EmptyStateView.h"
 #include "Views/Panel/KeyHintView.h"
 #include "Views/Panel/NoResultsView.h"
 #include "Views/Panel/PanelFooterView.h"
 #include "Views/Panel/PanelListView.h"
+#include "Views/Panel/PopupPanelView.h"
 #include "Views/Panel/ScopeBadgeView.h"
 #include "Views/Style/SymbolButton.h"
 #include "Views/Style/TextLabel.h"
 #include "views/ViewTest.h"
+
+#include <QtTest/QTest>
+#include <QtWidgets/QPushButton>
 
 namespace lanternix {
 

@@ -8,7 +8,7 @@
 #include <memory>
 #include <signal.h>
 #include <spawn.h>
-#include <sys/pidfd.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -89,6 +89,12 @@ class ChildWatch : public QSocketNotifier {
   }
 };
 
+/// A descriptor for \p child, or -1. Asked of the kernel directly, because the C library's header
+/// for it is not fit for C++ everywhere.
+int openProcess(pid_t child) {
+  return static_cast<int>(syscall(SYS_pidfd_open, child, 0));
+}
+
 }  // namespace
 
 bool SpawnProcessLauncher::launch(const QString &launchPath, const QStringList &arguments) {
@@ -101,7 +107,7 @@ bool SpawnProcessLauncher::launch(const QString &launchPath, const QStringList &
     qCInfo(processLog) << "Cannot start" << launchPath << ":" << std::strerror(error);
     return false;
   }
-  const int descriptor = pidfd_open(child, 0);
+  const int descriptor = openProcess(child);
   if (descriptor < 0) {
     qCInfo(processLog) << "Cannot watch process" << child << ":" << std::strerror(errno);
     return true;

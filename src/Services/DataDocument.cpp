@@ -165,7 +165,7 @@ bool readRecord(JsonReader &reader, Record &record,
   }
   for (std::size_t i = 0; i < count; ++i) {
     if (fields[i].isRequired && !seen[i]) {
-      return reader.fail("an object lacks a required key and ends");
+      return reader.failForMissing(fields[i].key);
     }
   }
   return !reader.hasFailed();

@@ -2,6 +2,7 @@
 
 #include "Services/JsonNumber.h"
 
+#include <QtCore/QStringDecoder>
 #include <QtCore/QUuid>
 
 namespace lanternix {
@@ -84,7 +85,13 @@ bool JsonReader::readString(QString &value) {
   if (!readUtf8(utf8)) {
     return false;
   }
-  value = m_string.isAscii() ? QString::fromLatin1(utf8) : QString::fromUtf8(utf8);
+  if (m_string.isAscii()) {
+    value = QString::fromLatin1(utf8);
+  } else {
+    // QString::fromUtf8() would take U+FEFF at the beginning for a byte order mark and drop it.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    value = decoder(utf8);
+  }
   return true;
 }
 
@@ -224,6 +231,13 @@ bool JsonReader::fail(const char *error) {
   return failAt(m_value, error);
 }
 
+bool JsonReader::failForMissing(QByteArrayView key) {
+  if (!hasFailed()) {
+    m_missingKey = key;
+  }
+  return fail("an object lacks the key \"%1\" and ends");
+}
+
 bool JsonReader::failAt(const char *position, const char *error) {
   if (!hasFailed()) {
     m_error = error;
@@ -236,7 +250,11 @@ QString JsonReader::error() const {
   if (!hasFailed()) {
     return {};
   }
-  return QLatin1StringView(m_error) + u" at byte "_s + QString::number(m_errorPosition - m_begin);
+  QString error = QString::fromLatin1(m_error);
+  if (!m_missingKey.isEmpty()) {
+    error = error.arg(QString::fromUtf8(m_missingKey));
+  }
+  return error + u" at byte "_s + QString::number(m_errorPosition - m_begin);
 }
 
 }  // namespace lanternix

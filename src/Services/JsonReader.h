@@ -59,6 +59,8 @@ class JsonReader {
   bool hasFailed() const { return m_error != nullptr; }
   /// Records a failure of the caller's: what was just read does not serve. Returns false.
   bool fail(const char *error);
+  /// Records that the object just left lacks a member that it must have. Returns false.
+  bool failForMissing(QByteArrayView key);
   /// What was wrong, such as "a string is expected at byte 17"; empty when nothing was.
   QString error() const;
 
@@ -86,6 +88,7 @@ class JsonReader {
 
   JsonStringReader m_string;
   const char *m_error = nullptr;
+  QByteArrayView m_missingKey;
   const char *m_errorPosition = nullptr;
 };
 

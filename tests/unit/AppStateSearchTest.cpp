@@ -13,14 +13,14 @@ namespace {
 class AppStateSearch : public testing::Test, public StoreFixture {
  protected:
   const PathGroup work = group(u"Work Projects"_s, 1);
-  const PathGroup home = group(u"Home"_s, 0);
+  const PathGroup leisure = group(u"Home"_s, 0);
   const PathGroup empty = group(u"Empty"_s, 2);
   const PathItem report = item(u"Report"_s, work, 0, u"/work/report.pdf"_s);
   const PathItem plan = item(u"Plan"_s, work, 1, u"https://plan.example"_s);
-  const PathItem garden = item(u"Garden"_s, home, 0, u"/home/garden.PDF"_s);
-  const PathItem reptiles = item(u"Reptiles"_s, home, 1, u"/home/zoo"_s);
+  const PathItem garden = item(u"Garden"_s, leisure, 0, u"/home/garden.PDF"_s);
+  const PathItem reptiles = item(u"Reptiles"_s, leisure, 1, u"/home/zoo"_s);
   const std::unique_ptr<AppState> state =
-      makeState({work, home, empty}, {report, garden, plan, reptiles});
+      makeState({work, leisure, empty}, {report, garden, plan, reptiles});
 
   QStringList shownGroups() const { return names(state->filteredGroups()); }
   QStringList shownItems(const PathGroup &in) const { return names(state->itemsForGroup(in.id)); }
@@ -86,7 +86,7 @@ TEST_F(AppStateSearch, Term_IsFoundInNameOrPathInAnyCase) {
   state->setSearchQuery(u"pdf"_s);
   EXPECT_EQ(shownGroups(), (QStringList{u"Home"_s, u"Work Projects"_s}));
   EXPECT_EQ(shownItems(work), QStringList{u"Report"_s});
-  EXPECT_EQ(shownItems(home), QStringList{u"Garden"_s});
+  EXPECT_EQ(shownItems(leisure), QStringList{u"Garden"_s});
   state->setSearchQuery(u"GARD"_s);
   EXPECT_EQ(shownGroups(), QStringList{u"Home"_s});
 }
@@ -105,15 +105,15 @@ TEST_F(AppStateSearch, Term_InGroupNamesAlone_ShowsNothing) {
 TEST_F(AppStateSearch, Term_OfBlanks_SearchesForThem) {
   state->setSearchQuery(u"   "_s);
   EXPECT_THAT(shownGroups(), IsEmpty());
-  state->addItem(item(u"three   blanks"_s, home));
-  EXPECT_EQ(shownItems(home), QStringList{u"three   blanks"_s});
+  state->addItem(item(u"three   blanks"_s, leisure));
+  EXPECT_EQ(shownItems(leisure), QStringList{u"three   blanks"_s});
 }
 
 TEST_F(AppStateSearch, Scope_Alone_ShowsWholeGroups) {
   state->setSearchQuery(u"WORK:"_s);
   EXPECT_EQ(shownGroups(), QStringList{u"Work Projects"_s});
   EXPECT_EQ(shownItems(work), (QStringList{u"Report"_s, u"Plan"_s}));
-  EXPECT_THAT(shownItems(home), IsEmpty());
+  EXPECT_THAT(shownItems(leisure), IsEmpty());
   ASSERT_TRUE(state->scopedGroups().has_value());
   EXPECT_EQ(names(*state->scopedGroups()), QStringList{u"Work Projects"_s});
 }
@@ -127,7 +127,7 @@ TEST_F(AppStateSearch, Scope_WithTerm_SearchesInItsGroups) {
   state->setSearchQuery(u"work: rep"_s);
   EXPECT_EQ(shownGroups(), QStringList{u"Work Projects"_s});
   EXPECT_EQ(shownItems(work), QStringList{u"Report"_s});
-  EXPECT_THAT(shownItems(home), IsEmpty());
+  EXPECT_THAT(shownItems(leisure), IsEmpty());
 }
 
 TEST_F(AppStateSearch, Scope_WithTermThatIsNotThere_ShowsNothing) {
@@ -153,20 +153,20 @@ TEST_F(AppStateSearch, Scope_ThatNoGroupHas_SearchesTheWholeQuery) {
 TEST_F(AppStateSearch, Scope_ThatNoGroupHas_LeavesTheTermToAllGroups) {
   state->setSearchQuery(u"nowhere: rep"_s);
   EXPECT_EQ(shownGroups(), (QStringList{u"Home"_s, u"Work Projects"_s}));
-  EXPECT_EQ(shownItems(home), QStringList{u"Reptiles"_s});
+  EXPECT_EQ(shownItems(leisure), QStringList{u"Reptiles"_s});
 }
 
 TEST_F(AppStateSearch, Query_StartingWithAColon_ScopesAndSearchesTheSame) {
-  state->addItem(item(u"Homework"_s, home));
+  state->addItem(item(u"Homework"_s, leisure));
   state->setSearchQuery(u": home"_s);
   EXPECT_EQ(shownGroups(), QStringList{u"Home"_s});
-  EXPECT_EQ(shownItems(home), (QStringList{u"Garden"_s, u"Reptiles"_s, u"Homework"_s}));
+  EXPECT_EQ(shownItems(leisure), (QStringList{u"Garden"_s, u"Reptiles"_s, u"Homework"_s}));
 }
 
 TEST_F(AppStateSearch, Query_OfOneColon_SearchesForIt) {
   state->setSearchQuery(u":"_s);
   EXPECT_EQ(shownItems(work), QStringList{u"Plan"_s});
-  EXPECT_THAT(shownItems(home), IsEmpty());
+  EXPECT_THAT(shownItems(leisure), IsEmpty());
 }
 
 TEST_F(AppStateSearch, ItemsForGroup_MissingGroup_GivesItsItems) {
@@ -200,7 +200,7 @@ TEST_F(AppStateSearch, ChangesWhileSearching_AreFoundAtOnce) {
   renamed.name = u"Zzz"_s;
   state->updateItem(renamed);
   EXPECT_EQ(shownItems(work), QStringList{u"Zzz"_s});
-  state->moveItem(plan.id, home.id);
+  state->moveItem(plan.id, leisure.id);
   EXPECT_EQ(shownGroups(), QStringList{u"Home"_s});
   state->openItem(renamed);
   state->setSearchQuery(u"zzz"_s);
@@ -211,7 +211,7 @@ TEST_F(AppStateSearch, ChangesWhileSearching_AreFoundAtOnce) {
 TEST_F(AppStateSearch, RenamedGroup_IsFoundByItsNewNameAtOnce) {
   state->setSearchQuery(u"garage:"_s);
   EXPECT_EQ(state->scopedGroups(), std::nullopt);
-  PathGroup renamed = home;
+  PathGroup renamed = leisure;
   renamed.name = u"Garage"_s;
   state->updateGroup(renamed);
   EXPECT_EQ(shownGroups(), QStringList{u"Garage"_s});

@@ -70,8 +70,8 @@ TEST_F(AppStateStartup, Start_BrokenDataFile_IsEmptyAndLeavesTheFileUntouched) {
 }
 
 TEST_F(AppStateStartup, Start_RepairsItemOrdersInMemoryOnly) {
-  const PathGroup home = group(u"Home"_s);
-  writeData({home}, {item(u"x"_s, home, 3), item(u"y"_s, home, 3), item(u"z"_s, home, 7)});
+  const PathGroup only = group(u"Only"_s);
+  writeData({only}, {item(u"x"_s, only, 3), item(u"y"_s, only, 3), item(u"z"_s, only, 7)});
   const std::optional<DataDocument> before = savedData();
   const auto state = makeState();
   EXPECT_EQ(state->items()[2].order, 2);
@@ -90,8 +90,8 @@ TEST_F(AppStateStartup, Start_ShortcutHeldByAnotherProgram_StartsAllTheSame) {
 }
 
 TEST_F(AppStateStartup, Start_BacksUpTheDataAsTheyWereRead) {
-  const PathGroup home = group(u"Home"_s);
-  const DataDocument data{{home}, {item(u"p"_s, home, 5), item(u"q"_s, home, 1)}};
+  const PathGroup only = group(u"Only"_s);
+  const DataDocument data{{only}, {item(u"p"_s, only, 5), item(u"q"_s, only, 1)}};
   const auto state = makeState(data.groups, data.items);
   EXPECT_EQ(onlyBackup(), data);
   EXPECT_EQ(state->items()[0].order, 1);  // in memory they were repaired

@@ -6,7 +6,7 @@ namespace lanternix {
 
 /// The file system through the system's own calls, and the user's data directory as the desktop's
 /// base directory specification has it.
-class PosixFileManager final : public FileManager {
+class PosixFileManager : public FileManager {
  public:
   /// A greater file is not read at all: no document comes near, and memory is the user's.
   static constexpr qint64 largestFile = qint64{1} << 30;

@@ -81,8 +81,10 @@ bool PosixFileManager::writeAtomically(QByteArrayView bytes, const QString &path
     return false;
   }
   QSaveFile file(*target);
+  // The flush is not commit()'s to do: what it cannot write on a full disk, it passes over and puts
+  // the cut-off file in place.
   if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), bytes.size()) != bytes.size() ||
-      !file.commit()) {
+      !file.flush() || !file.commit()) {
     qCWarning(files) << path << "cannot be written:" << file.errorString();
     return false;
   }

@@ -114,9 +114,9 @@ void DesktopTest::dragPanel(QPoint from, QPoint to, const QRect &expected) {
   const QRect start = panelGeometry();
   input().moveTo(from);
   input().pressButton();
-  // A hand moves by small steps, and sees the panel follow before it moves on.
-  const QPoint firstStep = (to - from) / 4;
-  input().moveTo(from + firstStep);
+  // No hand is so quick that it moves before the window manager has seen the press.
+  m_session.windowManager()->settle();
+  input().moveTo(from + (to - from) / 4);
   waitUntil([&] { return panelGeometry() != start; });
   input().moveTo(to);
   if (!waitUntil([&] { return panelGeometry() == expected; })) {

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "Models/Date.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
-#include <optional>
 
-#include "Models/Date.h"
+#include <optional>
 
 namespace lanternix {
 

@@ -188,8 +188,10 @@ bool isFunctionKey(const Key &key) {
   return key.keySymbol >= functionKey(1) && key.keySymbol <= functionKey(20);
 }
 
-bool isMediaSymbol(quint32 keySymbol) {
-  return keySymbol >= Symbol::firstMedia && keySymbol <= Symbol::lastMedia;
+/// Whether the common keyboard maps put \p keySymbol on a function key: a media symbol on those
+/// above F12, or none, and a console's on each while Control and Alt are held.
+bool isUsualOnFunctionKey(quint32 keySymbol) {
+  return keySymbol == 0 || (keySymbol >= Symbol::firstMedia && keySymbol <= Symbol::lastMedia);
 }
 
 template <typename Field>
@@ -223,10 +225,8 @@ std::optional<quint32> virtualCodeForPress(quint32 nativeScanCode, quint32 keySy
   if (key == nullptr) {
     return std::nullopt;
   }
-  // The common keyboard maps give F13 and above, and function keys held with Control and Alt, a
-  // media or console symbol; nobody has moved the key by that.
-  const bool standsByPosition =
-      key->keySymbol == Symbol::position || (isFunctionKey(*key) && isMediaSymbol(keySymbol));
+  const bool standsByPosition = key->keySymbol == Symbol::position ||
+                                (isFunctionKey(*key) && isUsualOnFunctionKey(keySymbol));
   return standsByPosition ? std::optional(key->virtualCode) : std::nullopt;
 }
 

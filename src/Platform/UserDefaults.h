@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Models/Date.h"
+
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
-
-#include "Models/Date.h"
 
 namespace lanternix {
 

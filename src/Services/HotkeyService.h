@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QtCore/QObject>
-#include <functional>
-
 #include "Services/HotkeyShortcut.h"
+
+#include <QtCore/QObject>
+
+#include <functional>
 
 namespace lanternix {
 

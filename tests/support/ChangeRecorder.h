@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QtCore/QStringList>
-#include <utility>
-
 #include "App/AppState.h"
+
+#include <QtCore/QStringList>
+
+#include <utility>
 
 namespace lanternix {
 

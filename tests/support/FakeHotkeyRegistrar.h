@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Platform/HotkeyRegistrar.h"
+
 #include <optional>
 #include <utility>
-
-#include "Platform/HotkeyRegistrar.h"
 
 namespace lanternix {
 

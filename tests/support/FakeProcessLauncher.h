@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QtCore/QStringList>
-#include <functional>
-
 #include "Platform/ProcessLauncher.h"
+
+#include <QtCore/QStringList>
+
+#include <functional>
 
 namespace lanternix {
 

@@ -28,17 +28,23 @@ InputDriver::~InputDriver() {
 }
 
 void InputDriver::refreshKeyboard() {
-  m_symbols.reset(xcb_key_symbols_alloc(m_connection));
+  m_keyboard = std::make_unique<Keyboard>(m_connection);
 }
 
 void InputDriver::press(xcb_keysym_t key) {
-  const xcb_keycode_t code = positionOf(key).code;
+  const xcb_keycode_t code = m_keyboard->positionOf(key).code;
   m_heldKeys.append(code);
   send(XCB_KEY_PRESS, code);
 }
 
+void InputDriver::pressAndFlush(xcb_keysym_t key) {
+  const xcb_keycode_t code = m_keyboard->positionOf(key).code;
+  m_heldKeys.append(code);
+  sendAndFlush(XCB_KEY_PRESS, code, {});
+}
+
 void InputDriver::release(xcb_keysym_t key) {
-  const xcb_keycode_t code = positionOf(key).code;
+  const xcb_keycode_t code = m_keyboard->positionOf(key).code;
   m_heldKeys.removeOne(code);
   send(XCB_KEY_RELEASE, code);
 }
@@ -60,7 +66,8 @@ void InputDriver::type(const QString &text) {
   const QList<uint> characters = text.toUcs4();
   for (const uint character : characters) {
     const xcb_keysym_t key = character <= lastLatin1 ? character : unicodeBase + character;
-    tap(key, positionOf(key).shifted ? QList<xcb_keysym_t>{XK_Shift_L} : QList<xcb_keysym_t>{});
+    tap(key, m_keyboard->positionOf(key).shifted ? QList<xcb_keysym_t>{XK_Shift_L}
+                                                 : QList<xcb_keysym_t>{});
   }
 }
 
@@ -94,23 +101,15 @@ void InputDriver::drag(QPoint from, QPoint to, quint8 button) {
   releaseButton(button);
 }
 
-InputDriver::KeyPosition InputDriver::positionOf(xcb_keysym_t key) const {
-  const xcb_setup_t *setup = xcb_get_setup(m_connection);
-  for (const int column : {0, 1}) {
-    for (int code = setup->min_keycode; code <= setup->max_keycode; ++code) {
-      const auto keycode = static_cast<xcb_keycode_t>(code);
-      if (xcb_key_symbols_get_keysym(m_symbols.get(), keycode, column) == key) {
-        return {keycode, column == 1};
-      }
-    }
-  }
-  throw HarnessError(u"no key of the keyboard carries the symbol 0x%1"_s.arg(key, 0, 16));
+void InputDriver::send(quint8 eventType, quint8 detail, QPoint position) {
+  sendAndFlush(eventType, detail, position);
+  m_connection.sync();
 }
 
-void InputDriver::send(quint8 eventType, quint8 detail, QPoint position) {
+void InputDriver::sendAndFlush(quint8 eventType, quint8 detail, QPoint position) {
   xcb_test_fake_input(m_connection, eventType, detail, XCB_CURRENT_TIME, m_connection.root(),
                       static_cast<qint16>(position.x()), static_cast<qint16>(position.y()), 0);
-  m_connection.sync();
+  xcb_flush(m_connection);
 }
 
 }  // namespace lanternix

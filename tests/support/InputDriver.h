@@ -1,13 +1,12 @@
 #pragma once
 
+#include "support/Keyboard.h"
 #include "support/XConnection.h"
 
 #include <QtCore/QList>
 #include <QtCore/QPoint>
 
 #include <memory>
-#include <xcb/xcb_keysyms.h>
-
 namespace lanternix {
 
 /// The hands at the keyboard and the mouse: events that no program can tell from a person's. Every
@@ -21,6 +20,8 @@ class InputDriver {
   Q_DISABLE_COPY_MOVE(InputDriver)
 
   void press(xcb_keysym_t key);
+  /// As press(), but returns as soon as the request is on its way: for who takes the time.
+  void pressAndFlush(xcb_keysym_t key);
   void release(xcb_keysym_t key);
   /// Presses and releases \p key while \p modifiers are held.
   void tap(xcb_keysym_t key, const QList<xcb_keysym_t> &modifiers = {});
@@ -38,19 +39,11 @@ class InputDriver {
   void refreshKeyboard();
 
  private:
-  struct KeyPosition {
-    xcb_keycode_t code;
-    bool shifted;
-  };
-  struct SymbolsDeleter {
-    void operator()(xcb_key_symbols_t *symbols) const noexcept { xcb_key_symbols_free(symbols); }
-  };
-
-  KeyPosition positionOf(xcb_keysym_t key) const;
   void send(quint8 eventType, quint8 detail, QPoint position = {});
+  void sendAndFlush(quint8 eventType, quint8 detail, QPoint position);
 
   XConnection m_connection;
-  std::unique_ptr<xcb_key_symbols_t, SymbolsDeleter> m_symbols;
+  std::unique_ptr<Keyboard> m_keyboard;
   QList<xcb_keycode_t> m_heldKeys;
   QList<quint8> m_heldButtons;
 };

@@ -1,22 +1,15 @@
 #include "support/OtherClient.h"
 
-#include "support/HarnessError.h"
 #include "support/WaitUntil.h"
 
 #include <X11/keysym.h>
 #include <array>
-#include <xcb/xcb_keysyms.h>
 
 namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct SymbolsDeleter {
-  void operator()(xcb_key_symbols_t *symbols) const noexcept { xcb_key_symbols_free(symbols); }
-};
-using Symbols = std::unique_ptr<xcb_key_symbols_t, SymbolsDeleter>;
 
 void setText(const XConnection &connection, xcb_window_t window, xcb_atom_t property,
              xcb_atom_t type, const QByteArray &text) {
@@ -27,7 +20,7 @@ void setText(const XConnection &connection, xcb_window_t window, xcb_atom_t prop
 }  // namespace
 
 OtherClient::OtherClient(const QString &displayName, QRect geometry, Shape shape)
-    : m_connection(displayName), m_window(xcb_generate_id(m_connection)) {
+    : m_connection(displayName), m_keyboard(m_connection), m_window(xcb_generate_id(m_connection)) {
   const std::array<quint32, 2> values{m_connection.screen().white_pixel,
                                       XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_BUTTON_PRESS |
                                           XCB_EVENT_MASK_FOCUS_CHANGE | XCB_EVENT_MASK_EXPOSURE |
@@ -89,27 +82,26 @@ bool OtherClient::hasFocus() {
 }
 
 bool OtherClient::holdKey(xcb_keysym_t key, quint16 modifiers) {
-  const xcb_void_cookie_t cookie =
-      xcb_grab_key_checked(m_connection, 0, m_connection.root(), modifiers, keyCode(key),
-                           XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+  const xcb_void_cookie_t cookie = xcb_grab_key_checked(m_connection, 0, m_connection.root(),
+                                                        modifiers, m_keyboard.positionOf(key).code,
+                                                        XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
   const XReply<xcb_generic_error_t> error(xcb_request_check(m_connection, cookie));
   return !error;
 }
 
 void OtherClient::letKeyGo(xcb_keysym_t key, quint16 modifiers) {
-  xcb_ungrab_key(m_connection, keyCode(key), m_connection.root(), modifiers);
+  xcb_ungrab_key(m_connection, m_keyboard.positionOf(key).code, m_connection.root(), modifiers);
   m_connection.sync();
 }
 
 void OtherClient::readEvents() {
   m_connection.sync();
-  const Symbols symbols(xcb_key_symbols_alloc(m_connection));
   for (XReply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection)); event;
        event.reset(xcb_poll_for_event(m_connection))) {
     switch (event->response_type & ~0x80U) {
       case XCB_KEY_PRESS: {
         const auto *key = reinterpret_cast<const xcb_key_press_event_t *>(event.get());
-        m_keys.append(xcb_key_symbols_get_keysym(symbols.get(), key->detail, 0));
+        m_keys.append(m_keyboard.symbolOf(key->detail));
         noteUserTime(key->time);
         break;
       }
@@ -141,15 +133,6 @@ void OtherClient::noteUserTime(xcb_timestamp_t time) {
   xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window,
                       m_connection.atom("_NET_WM_USER_TIME"), XCB_ATOM_CARDINAL, 32, 1, &time);
   m_connection.sync();
-}
-
-xcb_keycode_t OtherClient::keyCode(xcb_keysym_t key) const {
-  const Symbols symbols(xcb_key_symbols_alloc(m_connection));
-  const XReply<xcb_keycode_t> codes(xcb_key_symbols_get_keycode(symbols.get(), key));
-  if (!codes || codes.get()[0] == XCB_NO_SYMBOL) {
-    throw HarnessError(u"no key of the keyboard carries the symbol 0x%1"_s.arg(key, 0, 16));
-  }
-  return codes.get()[0];
 }
 
 }  // namespace lanternix

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/Keyboard.h"
 #include "support/XConnection.h"
 
 #include <QtCore/QList>
@@ -40,9 +41,9 @@ class OtherClient {
  private:
   void readEvents();
   void noteUserTime(xcb_timestamp_t time);
-  xcb_keycode_t keyCode(xcb_keysym_t key) const;
 
   XConnection m_connection;
+  Keyboard m_keyboard;
   xcb_window_t m_window;
   QList<xcb_keysym_t> m_keys;
   QList<quint8> m_buttons;

@@ -1,10 +1,5 @@
 #pragma once
 
-#include <QtCore/QFile>
-#include <functional>
-#include <memory>
-#include <optional>
-
 #include "App/AppState.h"
 #include "Platform/Doors.h"
 #include "Platform/Linux/PosixFileManager.h"
@@ -15,6 +10,12 @@
 #include "support/FakeProcessLauncher.h"
 #include "support/FakeWorkspace.h"
 #include "support/TemporaryHome.h"
+
+#include <QtCore/QFile>
+
+#include <functional>
+#include <memory>
+#include <optional>
 
 namespace lanternix {
 
@@ -38,7 +39,8 @@ class StoreFixture {
   std::unique_ptr<AppState> makeState() { return std::make_unique<AppState>(doors()); }
 
   /// A store that starts with these groups and items.
-  std::unique_ptr<AppState> makeState(const QList<PathGroup> &groups, const QList<PathItem> &items) {
+  std::unique_ptr<AppState> makeState(const QList<PathGroup> &groups,
+                                      const QList<PathItem> &items) {
     writeData(groups, items);
     return makeState();
   }

@@ -40,10 +40,32 @@ bool isManaged(const XConnection &connection) {
          !connection.property(connection.root(), "_NET_WORKAREA").isEmpty();
 }
 
+/// Asks for the frame that a window would get, until the answer shows that the window manager's
+/// event loop runs. What it reads from the server while it starts can lie unseen until the next
+/// event, so that asking once is not enough.
+void awaitEventLoop(const XConnection &connection) {
+  const xcb_window_t window = xcb_generate_id(connection);
+  xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, connection.root(), 0, 0, 1, 1, 0,
+                    XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+  xcb_client_message_event_t question{};
+  question.response_type = XCB_CLIENT_MESSAGE;
+  question.format = 32;
+  question.window = window;
+  question.type = connection.atom("_NET_REQUEST_FRAME_EXTENTS");
+  require(u"the window manager's answer"_s, [&] {
+    xcb_send_event(connection, 0, connection.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                   reinterpret_cast<const char *>(&question));
+    return !connection.property(window, "_NET_FRAME_EXTENTS").isEmpty();
+  });
+  xcb_destroy_window(connection, window);
+  connection.sync();
+}
+
 }  // namespace
 
 WindowManager::WindowManager(const VirtualDisplay &display)
-    : m_process(u"openbox"_s, u"openbox"_s) {
+    : m_displayName(display.name()), m_process(u"openbox"_s, u"openbox"_s) {
   QFile file(m_home.filePath(u"rc.xml"_s));
   if (!file.open(QIODevice::WriteOnly)) {
     throw HarnessError(file.errorString());
@@ -60,8 +82,14 @@ WindowManager::WindowManager(const VirtualDisplay &display)
   environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
   m_process.start({u"--sm-disable"_s, u"--config-file"_s, file.fileName()}, environment);
 
-  const XConnection connection(display.name());
+  const XConnection connection(m_displayName);
   require(u"the window manager"_s, [&] { return isManaged(connection); });
+  settle();
+}
+
+void WindowManager::settle() const {
+  const XConnection connection(m_displayName);
+  awaitEventLoop(connection);
 }
 
 }  // namespace lanternix

@@ -1,17 +1,16 @@
 #include "App/AppDelegate.h"
-
-#include <QtGui/QKeyEvent>
-#include <QtGui/QScreen>
-#include <QtGui/QWindow>
-#include <QtTest/QTest>
-#include <QtWidgets/QApplication>
-
 #include "Platform/GlobalMouseMonitor.h"
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Services/Preferences.h"
 #include "Utilities/FloatingPanel.h"
 #include "Views/Panel/PopupPanelView.h"
 #include "views/ViewTest.h"
+
+#include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
+#include <QtGui/QWindow>
+#include <QtTest/QTest>
+#include <QtWidgets/QApplication>
 
 namespace lanternix {
 

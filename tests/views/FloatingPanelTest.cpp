@@ -1,13 +1,12 @@
+#include "Platform/Linux/QtWindowSystem.h"
 #include "Utilities/FloatingPanel.h"
-
-#include <gtest/gtest.h>
+#include "Utilities/WindowEdgeResizer.h"
 
 #include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
-#include "Platform/Linux/QtWindowSystem.h"
-#include "Utilities/WindowEdgeResizer.h"
+#include <gtest/gtest.h>
 
 namespace lanternix {
 

@@ -1,9 +1,8 @@
 #include "Views/Panel/ItemRowView.h"
-
-#include <QtCore/QDir>
-
 #include "Views/Panel/PanelMetrics.h"
 #include "views/ViewTest.h"
+
+#include <QtCore/QDir>
 
 namespace lanternix {
 

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "Views/Panel/PanelListLayout.h"
+
+#include <gtest/gtest.h>
 
 namespace lanternix {
 

@@ -1,9 +1,8 @@
 #include "Views/Panel/PanelListModel.h"
+#include "views/ViewTest.h"
 
 #include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QSignalSpy>
-
-#include "views/ViewTest.h"
 
 namespace lanternix {
 
@@ -92,8 +91,8 @@ TEST_F(PanelListModelTest, RowOfItem_IsTheFirstThatShowsIt) {
 TEST_F(PanelListModelTest, KeepsTheContractOfModels_ThroughEveryChange) {
   const auto state = makeState({work, home_}, {report, notes, garden});
   PanelListModel model(*state);
-  const QAbstractItemModelTester tester(
-      &model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+  const QAbstractItemModelTester tester(&model,
+                                        QAbstractItemModelTester::FailureReportingMode::Fatal);
   state->setSearchQuery(QStringLiteral("no"));
   state->setSearchQuery({});
   state->toggleGroup(work.id);

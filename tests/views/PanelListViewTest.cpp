@@ -1,4 +1,6 @@
+#include "Views/Panel/PanelListModel.h"
 #include "Views/Panel/PanelListView.h"
+#include "views/ViewTest.h"
 
 #include <QtGui/QClipboard>
 #include <QtGui/QContextMenuEvent>
@@ -7,9 +9,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QScrollBar>
-
-#include "Views/Panel/PanelListModel.h"
-#include "views/ViewTest.h"
 
 namespace lanternix {
 

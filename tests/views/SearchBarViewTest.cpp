@@ -1,10 +1,9 @@
 #include "Views/Panel/SearchBarView.h"
+#include "Views/Style/SymbolButton.h"
+#include "views/ViewTest.h"
 
 #include <QtTest/QTest>
 #include <QtWidgets/QLineEdit>
-
-#include "Views/Style/SymbolButton.h"
-#include "views/ViewTest.h"
 
 namespace lanternix {
 

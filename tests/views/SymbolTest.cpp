@@ -1,10 +1,10 @@
 #include "Views/Style/Symbol.h"
 
-#include <gtest/gtest.h>
-
 #include <QtGui/QColor>
 #include <QtGui/QImage>
 #include <QtGui/QPixmap>
+
+#include <gtest/gtest.h>
 
 namespace lanternix {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include "support/StoreFixture.h"
+
+#include <gtest/gtest.h>
 
 namespace lanternix {
 

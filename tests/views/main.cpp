@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <QtWidgets/QApplication>
+
+#include <gtest/gtest.h>
 
 int main(int argc, char **argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -8,7 +8,7 @@
 #include <memory>
 #include <signal.h>
 #include <spawn.h>
-#include <sys/pidfd.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -32,7 +32,9 @@ class SpawnSettings {
     sigset_t signals;
     sigemptyset(&signals);
     posix_spawnattr_setsigmask(&m_attributes, &signals);
-    sigfillset(&signals);
+    // Not sigfillset, which leaves out the signals that the C library keeps for itself: the child
+    // would start with those ignored.
+    std::memset(&signals, 0xff, sizeof signals);
     posix_spawnattr_setsigdefault(&m_attributes, &signals);
   }
   ~SpawnSettings() {
@@ -89,6 +91,12 @@ class ChildWatch : public QSocketNotifier {
   }
 };
 
+/// A descriptor for \p child, or -1. Asked of the kernel directly, because the C library's header
+/// for it is not fit for C++ everywhere.
+int openProcess(pid_t child) {
+  return static_cast<int>(syscall(SYS_pidfd_open, child, 0));
+}
+
 }  // namespace
 
 bool SpawnProcessLauncher::launch(const QString &launchPath, const QStringList &arguments) {
@@ -101,7 +109,7 @@ bool SpawnProcessLauncher::launch(const QString &launchPath, const QStringList &
     qCInfo(processLog) << "Cannot start" << launchPath << ":" << std::strerror(error);
     return false;
   }
-  const int descriptor = pidfd_open(child, 0);
+  const int descriptor = openProcess(child);
   if (descriptor < 0) {
     qCInfo(processLog) << "Cannot watch process" << child << ":" << std::strerror(errno);
     return true;

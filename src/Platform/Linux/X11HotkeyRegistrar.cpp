@@ -164,8 +164,12 @@ bool X11HotkeyRegistrar::isOurs(const xcb_key_press_event_t &event) const {
 
 void X11HotkeyRegistrar::handlePress(const xcb_key_press_event_t &event) {
   m_eventTime.note(event.time);
-  // A held key repeats as a release and a press at the same moment.
-  const bool repeats = m_releasedKey == event.detail && m_releaseTime == event.time;
+  // A held key repeats as a release and a press at the same moment. So do two presses by a program
+  // that plays keys faster than any keyboard repeats them.
+  constexpr quint32 shortestRepeat = 5;  // milliseconds
+  const bool repeats = m_releasedKey == event.detail && m_releaseTime == event.time &&
+                       event.time - m_pressTime >= shortestRepeat;
+  m_pressTime = event.time;
   const bool isHotkey = std::ranges::find(m_grabs, event.detail, &Grab::keyCode) != m_grabs.end();
   if (isHotkey && !repeats) {
     Q_EMIT pressed();

@@ -58,6 +58,7 @@ class X11HotkeyRegistrar : public HotkeyRegistrar, public QAbstractNativeEventFi
   bool m_followingSoon = false;
   xcb_keycode_t m_releasedKey = 0;
   xcb_timestamp_t m_releaseTime = 0;
+  xcb_timestamp_t m_pressTime = 0;
 };
 
 }  // namespace lanternix

@@ -28,6 +28,10 @@ XInputMouseMonitor::XInputMouseMonitor(const X11Server &server, X11EventTime &ev
   QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
+XInputMouseMonitor::~XInputMouseMonitor() {
+  setActive(false);
+}
+
 void XInputMouseMonitor::setActive(bool active) {
   if (!m_opcode) {
     m_opcode = extensionOpcode(m_server);

@@ -18,6 +18,7 @@ class XInputMouseMonitor : public GlobalMouseMonitor, public QAbstractNativeEven
 
  public:
   XInputMouseMonitor(const X11Server &server, X11EventTime &eventTime);
+  ~XInputMouseMonitor() override;
 
   void setActive(bool active) override;
 

@@ -52,7 +52,7 @@ double ItemRowView::height() const {
 }
 
 QString ItemRowView::displayPath(const PathItem &item) {
-  static const QString home = QDir::homePath();
+  const QString home = QDir::homePath();
   // A home of "/" would turn every slash into a tilde.
   if (item.type == ItemType::link || home.size() < 2) {
     return item.path;

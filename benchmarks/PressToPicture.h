@@ -1,0 +1,48 @@
+#pragma once
+
+#include "PictureWatch.h"
+#include "Series.h"
+#include "support/DesktopSession.h"
+
+#include <QtCore/QByteArray>
+
+namespace lanternix {
+
+/// How often each figure is measured.
+struct Effort {
+  int starts = 15;
+  int presses = 60;
+  std::chrono::seconds hiddenTime{20};
+};
+
+/// What a person waits for, measured from outside.
+struct WholeProgramFigures {
+  Series startToHeldShortcut;
+  Series startToShownPanel;
+  Series pressToFirstPicture;
+  Series pressToSettled;
+  Series letterToSettled;
+  Series escapeToUnmapped;
+  qint64 proportionalSetSizeKilobytes = 0;
+  qint64 wakeUpsWhileHidden = 0;
+};
+
+/// Measures the built program over a data file, or a bare window as the floor under its figures, on
+/// a display, a window manager and a bus of its own.
+class PressToPicture {
+ public:
+  explicit PressToPicture(const Effort &effort) : m_effort(effort) {}
+
+  WholeProgramFigures measureProgram(const QByteArray &dataFile);
+  WholeProgramFigures measureBareClient();
+
+ private:
+  void measureStarts(DesktopSession &session, WholeProgramFigures &figures) const;
+  void measurePresses(DesktopSession &session, xcb_window_t window,
+                      WholeProgramFigures &figures) const;
+  void measureRest(qint64 processId, WholeProgramFigures &figures) const;
+
+  Effort m_effort;
+};
+
+}  // namespace lanternix

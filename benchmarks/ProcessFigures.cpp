@@ -1,0 +1,45 @@
+#include "ProcessFigures.h"
+
+#include "support/HarnessError.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+
+namespace lanternix {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The number behind "key:" in a file of /proc.
+qint64 valueOf(const QByteArray &key, const QString &path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    throw HarnessError(u"%1: %2"_s.arg(path, file.errorString()));
+  }
+  const QList<QByteArray> lines = file.readAll().split('\n');
+  for (const QByteArray &line : lines) {
+    if (line.startsWith(key + ':')) {
+      return line.mid(key.size() + 1).simplified().split(' ').first().toLongLong();
+    }
+  }
+  throw HarnessError(u"%1 has no %2"_s.arg(path, QString::fromLatin1(key)));
+}
+
+}  // namespace
+
+qint64 ProcessFigures::proportionalSetSize(qint64 processId) {
+  return valueOf("Pss", u"/proc/%1/smaps_rollup"_s.arg(processId));
+}
+
+qint64 ProcessFigures::wakeUps(qint64 processId) {
+  const QDir tasks(u"/proc/%1/task"_s.arg(processId));
+  qint64 sum = 0;
+  const QStringList threads = tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+  for (const QString &thread : threads) {
+    sum += valueOf("voluntary_ctxt_switches", tasks.filePath(thread + u"/status"_s));
+  }
+  return sum;
+}
+
+}  // namespace lanternix

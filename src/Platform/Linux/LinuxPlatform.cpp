@@ -1,0 +1,88 @@
+#include "Platform/Clock.h"
+#include "Platform/Linux/BusSingleInstance.h"
+#include "Platform/Linux/GioWorkspace.h"
+#include "Platform/Linux/LockFileSingleInstance.h"
+#include "Platform/Linux/PosixFileManager.h"
+#include "Platform/Linux/QtWindowSystem.h"
+#include "Platform/Linux/SpawnProcessLauncher.h"
+#include "Platform/Linux/X11EventTime.h"
+#include "Platform/Linux/X11HotkeyRegistrar.h"
+#include "Platform/Linux/X11Server.h"
+#include "Platform/Linux/X11WindowSystem.h"
+#include "Platform/Linux/XInputMouseMonitor.h"
+#include "Platform/Platform.h"
+#include "Platform/UserDefaults.h"
+
+#include <QtGui/QGuiApplication>
+
+namespace lanternix {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The doors that are the same on every Linux desktop.
+class LinuxPlatform : public Platform {
+ public:
+  Doors doors() override {
+    return {m_fileManager, UserDefaults::standard(), hotkeyRegistrar(),
+            m_workspace,   m_processLauncher,        m_clock};
+  }
+
+ protected:
+  virtual HotkeyRegistrar &hotkeyRegistrar() = 0;
+
+ private:
+  PosixFileManager m_fileManager;
+  GioWorkspace m_workspace;
+  SpawnProcessLauncher m_processLauncher;
+  SystemClock m_clock;
+};
+
+class X11Platform : public LinuxPlatform {
+ public:
+  WindowSystem &windowSystem() override { return m_windowSystem; }
+  GlobalMouseMonitor &mouseMonitor() override { return m_mouseMonitor; }
+
+ protected:
+  HotkeyRegistrar &hotkeyRegistrar() override { return m_hotkeyRegistrar; }
+
+ private:
+  X11Server m_server;
+  X11EventTime m_eventTime;
+  X11HotkeyRegistrar m_hotkeyRegistrar{m_server, m_eventTime};
+  XInputMouseMonitor m_mouseMonitor{m_server, m_eventTime};
+  X11WindowSystem m_windowSystem{m_server, m_eventTime};
+};
+
+/// Where the window system is none that we know more of than Qt does.
+class PlainPlatform : public LinuxPlatform {
+ public:
+  WindowSystem &windowSystem() override { return m_windowSystem; }
+  GlobalMouseMonitor &mouseMonitor() override { return m_mouseMonitor; }
+
+ protected:
+  HotkeyRegistrar &hotkeyRegistrar() override { return m_hotkeyRegistrar; }
+
+ private:
+  NullHotkeyRegistrar m_hotkeyRegistrar;
+  NullGlobalMouseMonitor m_mouseMonitor;
+  QtWindowSystem m_windowSystem;
+};
+
+}  // namespace
+
+std::unique_ptr<Platform> Platform::create() {
+  if (QGuiApplication::platformName() == "xcb"_L1) {
+    return std::make_unique<X11Platform>();
+  }
+  return std::make_unique<PlainPlatform>();
+}
+
+std::unique_ptr<SingleInstance> makeSingleInstance() {
+  if (BusSingleInstance::isAvailable()) {
+    return std::make_unique<BusSingleInstance>();
+  }
+  return std::make_unique<LockFileSingleInstance>();
+}
+
+}  // namespace lanternix

@@ -28,16 +28,6 @@ void addIfAny(Series &series, const std::optional<PictureWatch::Duration> &durat
   series.add(*duration);
 }
 
-bool hasPicture(WindowProbe &windows, xcb_window_t window) {
-  const QImage picture = windows.grab(window);
-  const QImage plain = [&picture] {
-    QImage filled(picture.size(), picture.format());
-    filled.fill(picture.isNull() ? QColor() : picture.pixelColor(0, 0));
-    return filled;
-  }();
-  return !picture.isNull() && picture != plain;
-}
-
 }  // namespace
 
 WholeProgramFigures PressToPicture::measureProgram(const QByteArray &dataFile) {
@@ -81,7 +71,8 @@ void PressToPicture::measureStarts(DesktopSession &session, WholeProgramFigures 
     require(u"the held shortcut"_s, [&] { return shortcut.isHeld(); });
     const Series::Duration toHeld = Clock::now() - begin;
     require(u"the panel"_s, [&] {
-      return program.isPanelShown() && hasPicture(session.windows(), program.panel());
+      return program.isPanelShown() &&
+             WindowProbe::hasContent(session.windows().grab(program.panel()));
     });
     const Series::Duration toShown = Clock::now() - begin;
     if (start > 0) {

@@ -18,7 +18,11 @@ QString Series::text() const {
   if (m_milliseconds.empty()) {
     return u"–"_s;
   }
-  const auto rounded = [this](double part) { return QString::number(quantile(part), 'f', 1); };
+  const auto rounded = [this](double part) {
+    const double value = quantile(part);
+    const int decimals = value < 1 ? 3 : value < 10 ? 2 : 1;
+    return QString::number(value, 'f', decimals);
+  };
   return u"%1 ms (%2 to %3)"_s.arg(rounded(0.5), rounded(0.1), rounded(0.9));
 }
 

@@ -193,7 +193,8 @@ class AppState : public QObject {
   void assignSearchQuery(const QString &query);
   void navigate(qsizetype step);
   std::optional<qsizetype> selectedNavigationIndex() const;
-  QString needle() const;
+  std::vector<qsizetype> groupsInScope() const;
+  void findMatches(Listing &made) const;
   const ItemArrangement &arrangement() const;
   const SearchIndex &searchIndex() const;
   Listing &listing() const;

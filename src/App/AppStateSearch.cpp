@@ -66,45 +66,52 @@ QString AppState::itemSearchTerm() const {
                    : trimmedBlanks(QStringView(m_searchQuery).sliced(colon + 1)).toString();
 }
 
-QString AppState::needle() const {
-  const QString term = itemSearchTerm();
-  return term.isEmpty() ? m_searchQuery : term;
-}
-
 AppState::Listing &AppState::listing() const {
   if (m_listing) {
     return *m_listing;
   }
   m_listing = std::make_unique<Listing>();
   Listing &made = *m_listing;
-  if (const QString scope = groupScopeFilter(); !scope.isEmpty()) {
-    std::vector<qsizetype> scoped;
-    for (qsizetype i = 0; i < m_groups.size(); ++i) {
-      if (LocalizedText::contains(m_groups[i].name, scope)) {
-        scoped.push_back(i);
-        made.scopedGroupIds.insert(m_groups[i].id);
-      }
+  if (std::vector<qsizetype> scoped = groupsInScope(); !scoped.empty()) {
+    for (const qsizetype position : scoped) {
+      made.scopedGroupIds.insert(m_groups[position].id);
     }
-    if (!scoped.empty()) {
-      made.scopedGroups = std::move(scoped);
-    }
+    made.scopedGroups = std::move(scoped);
   }
-  made.filteredGroups = made.scopedGroups.has_value() ? *made.scopedGroups : groupsInDisplayOrder();
-  if (m_searchQuery.isEmpty() || (made.scopedGroups.has_value() && itemSearchTerm().isEmpty())) {
+  const bool isScoped = made.scopedGroups.has_value();
+  made.filteredGroups = isScoped ? *made.scopedGroups : groupsInDisplayOrder();
+  if (m_searchQuery.isEmpty() || (isScoped && itemSearchTerm().isEmpty())) {
     return made;
   }
+  findMatches(made);
+  std::erase_if(made.filteredGroups, [this](qsizetype position) {
+    return itemPositionsForGroup(m_groups[position].id).empty();
+  });
+  return made;
+}
+
+std::vector<qsizetype> AppState::groupsInScope() const {
+  std::vector<qsizetype> result;
+  const QString scope = groupScopeFilter();
+  for (qsizetype i = 0; !scope.isEmpty() && i < m_groups.size(); ++i) {
+    if (LocalizedText::contains(m_groups[i].name, scope)) {
+      result.push_back(i);
+    }
+  }
+  return result;
+}
+
+void AppState::findMatches(Listing &made) const {
+  const QString term = itemSearchTerm();
   const ItemArrangement &arranged = arrangement();
-  const std::vector<bool> hits = searchIndex().matches(m_items, needle());
+  const std::vector<bool> hits =
+      searchIndex().matches(m_items, term.isEmpty() ? m_searchQuery : term);
   Listing::Matches &matches = made.matches.emplace();
   for (qsizetype bucket = 0; bucket < arranged.bucketCount(); ++bucket) {
     std::ranges::copy_if(arranged.bucket(bucket), std::back_inserter(matches.positions),
                          [&hits](qsizetype position) { return hits[asSize(position)]; });
     matches.bucketEnds.push_back(static_cast<qsizetype>(matches.positions.size()));
   }
-  std::erase_if(made.filteredGroups, [this](qsizetype position) {
-    return itemPositionsForGroup(m_groups[position].id).empty();
-  });
-  return made;
 }
 
 std::optional<std::span<const qsizetype>> AppState::scopedGroupPositions() const {

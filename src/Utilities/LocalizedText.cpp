@@ -3,23 +3,44 @@
 #include <QtCore/QTextBoundaryFinder>
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 namespace lanternix::LocalizedText {
 
 namespace {
 
+constexpr char16_t sharpS = u'\u00df';
 constexpr char16_t dottedCapitalI = u'\u0130';
 constexpr char16_t dotlessSmallI = u'\u0131';
+constexpr char16_t smallNAfterApostrophe = u'\u0149';
 
 bool hasTurkicI(const QLocale &locale) {
   return locale.language() == QLocale::Turkish || locale.language() == QLocale::Azerbaijani;
 }
 
-// Whether folding \p text is a matter of the letters A to Z alone and each unit is a character. A
-// carriage return may make one character with the line feed after it.
-bool isPlainAscii(QStringView text, bool turkicI) {
+// What a text asks of folding. Names and paths are nearly always of the first two kinds, which are
+// dealt with quickly, so that all of them can be folded between a key press and the next picture.
+enum class Script {
+  ascii,         // the letters A to Z at most
+  oneToOne,      // each unit is a character, and its case folding is another one
+  anythingElse,  // characters of several code points, letters that fold to several
+};
+
+constexpr bool foldsOneToOne(char16_t unit) {
+  const auto isBetween = [unit](char16_t first, char16_t last) {
+    return first <= unit && unit <= last;
+  };
+  if (unit < 0x300) {  // Latin letters
+    // A carriage return may make one character with the line feed after it.
+    return unit != u'\r' && unit != sharpS && unit != dottedCapitalI &&
+           unit != smallNAfterApostrophe;
+  }
+  return isBetween(0x388, 0x482) || isBetween(0x48a, 0x52f) ||      // Greek and Cyrillic letters
+         isBetween(0x3041, 0x3096) || isBetween(0x309b, 0x9fff) ||  // kana and Han
+         isBetween(0xac00, 0xd7a3);                                 // Hangul syllables
+}
+
+Script scriptOf(QStringView text, bool turkicI) {
   char16_t all = 0;
   bool exceptional = false;
   for (const QChar character : text) {
@@ -27,7 +48,15 @@ bool isPlainAscii(QStringView text, bool turkicI) {
     all = static_cast<char16_t>(all | unit);
     exceptional |= unit == u'\r' || (turkicI && unit == u'I');
   }
-  return all < 0x80 && !exceptional;
+  if (exceptional) {
+    return Script::anythingElse;
+  }
+  if (all < 0x80) {
+    return Script::ascii;
+  }
+  const bool oneToOne = std::all_of(
+      text.begin(), text.end(), [](QChar character) { return foldsOneToOne(character.unicode()); });
+  return oneToOne ? Script::oneToOne : Script::anythingElse;
 }
 
 void appendAsciiFolded(QByteArray &utf8, QStringView text) {
@@ -41,6 +70,11 @@ void appendAsciiFolded(QByteArray &utf8, QStringView text) {
   }
 }
 
+// QString::fromUcs4() would take a zero width no-break space for a mark of the byte order.
+QString characterOf(char32_t codePoint) {
+  return QStringView(QChar::fromUcs4(codePoint)).toString();
+}
+
 // QString folds each letter to one letter. Those that stand for several ("ß", "ﬁ") are just those
 // whose upper case is longer.
 QString expanded(const QString &simplyFolded) {
@@ -51,7 +85,7 @@ QString expanded(const QString &simplyFolded) {
   QString result;
   result.reserve(upper.size());
   for (const char32_t codePoint : simplyFolded.toStdU32String()) {
-    const QString letter = QString::fromUcs4(&codePoint, 1);
+    const QString letter = characterOf(codePoint);
     const QString capital = letter.toUpper();
     result += capital.size() > letter.size() ? capital.toCaseFolded() : letter;
   }
@@ -74,7 +108,14 @@ QString foldedText(const QString &text, bool turkicI) {
 
 // Half a surrogate pair is no character. Left alone it would turn into a question mark in UTF-8.
 QString withoutLoneSurrogates(const QString &text) {
-  return text.isValidUtf16() ? text : QString::fromStdU32String(text.toStdU32String());
+  if (text.isValidUtf16()) {
+    return text;
+  }
+  QString result;
+  for (const char32_t codePoint : text.toStdU32String()) {
+    result += characterOf(codePoint);
+  }
+  return result;
 }
 
 qsizetype codePointCount(QStringView text) {
@@ -94,10 +135,6 @@ qsizetype characterCount(const QString &text) {
 // Whether each character of \p text has become one code point of \p folded. None becomes less than
 // one, so that it is enough to count.
 bool isSimple(const QString &text, const QString &folded) {
-  const auto standsAlone = [](QChar unit) { return unit.unicode() < 0x300 && unit != u'\r'; };
-  if (text.size() == folded.size() && std::all_of(text.begin(), text.end(), standsAlone)) {
-    return true;  // below the combining marks every code point is a character
-  }
   return codePointCount(folded) == characterCount(text);
 }
 
@@ -134,9 +171,15 @@ struct FoldedCharacters {
 
 bool appendFolded(QByteArray &utf8, const QString &text, const QLocale &locale) {
   const bool turkicI = hasTurkicI(locale);
-  if (isPlainAscii(text, turkicI)) {
-    appendAsciiFolded(utf8, text);
-    return true;
+  switch (scriptOf(text, turkicI)) {
+    case Script::ascii:
+      appendAsciiFolded(utf8, text);
+      return true;
+    case Script::oneToOne:
+      utf8 += text.toCaseFolded().toUtf8();
+      return true;
+    case Script::anythingElse:
+      break;
   }
   const QString valid = withoutLoneSurrogates(text);
   const QString folded = foldedText(valid, turkicI);

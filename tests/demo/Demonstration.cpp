@@ -91,13 +91,7 @@ void Demonstration::openByLetters() {
 void Demonstration::savePicture(const QString &pictureFile) {
   pressShortcut();
   m_program->waitForPanel();
-  QImage picture;
-  require(u"the panel's picture"_s, [&] {
-    const QImage now = m_session.windows().grab(m_program->panel());
-    const bool isSettled = !now.isNull() && now == picture;
-    picture = now;
-    return isSettled;
-  });
+  const QImage picture = m_session.windows().grabSettled(m_program->panel());
   if (!picture.save(pictureFile, "PNG")) {
     throw HarnessError(u"the picture cannot be written to "_s + pictureFile);
   }

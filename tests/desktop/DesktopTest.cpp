@@ -1,5 +1,7 @@
 #include "desktop/DesktopTest.h"
 
+#include "support/HarnessError.h"
+
 #include <QtCore/QFile>
 
 #include <X11/keysym.h>
@@ -103,30 +105,27 @@ QRect DesktopTest::changedArea(const QImage &before, const QRect &area) {
 QRect DesktopTest::selectNextRow() {
   // The list lies below the search row, whose caret blinks.
   constexpr int listTop = 90;
-  const QImage before = picture();
+  const QImage before = settledPicture();
   input().tap(XK_Down);
   return changedArea(before, before.rect().adjusted(0, listTop, 0, 0));
 }
 
-void DesktopTest::dragPanel(QPoint from, QPoint to) {
+void DesktopTest::dragPanel(QPoint from, QPoint to, const QRect &expected) {
   const QRect start = panelGeometry();
   input().moveTo(from);
   input().pressButton();
-  // The window manager takes the drag over at some point after its first steps; only then may the
-  // button go up.
-  int step = 0;
-  require(u"the panel to follow the pointer"_s, [&] {
-    constexpr int steps = 20;
-    step = step % steps + 1;
-    input().moveTo(from + (to - from) * step / steps);
-    return panelGeometry() != start;
-  });
+  // No hand is so quick that it moves before the window manager has seen the press.
+  m_session.windowManager()->settle();
+  input().moveTo(from + (to - from) / 4);
+  waitUntil([&] { return panelGeometry() != start; });
   input().moveTo(to);
-  QRect last;
-  require(u"the panel to come to rest"_s, [&] {
+  if (!waitUntil([&] { return panelGeometry() == expected; })) {
     const QRect now = panelGeometry();
-    return std::exchange(last, now) == now && now != start;
-  });
+    throw HarnessError(u"the drag led to %1,%2 %3x%4"_s.arg(now.x())
+                           .arg(now.y())
+                           .arg(now.width())
+                           .arg(now.height()));
+  }
   input().releaseButton();
 }
 

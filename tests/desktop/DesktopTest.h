@@ -59,11 +59,12 @@ class DesktopTest : public testing::Test {
   QRect changedArea(const QImage &before, const QRect &area);
   /// The row that the down arrow selects, found by its highlight, on the panel.
   QRect selectNextRow();
-  /// Presses at \p from, drags the panel (or its edge) until its geometry follows, and lets go at
-  /// \p to.
-  void dragPanel(QPoint from, QPoint to);
+  /// Presses at \p from, drags to \p to, waits until the panel's geometry is \p expected, and lets
+  /// go. Throws with the geometry that it had instead.
+  void dragPanel(QPoint from, QPoint to, const QRect &expected);
 
   QImage picture() { return session().windows().grab(m_program->panel()); }
+  QImage settledPicture() { return session().windows().grabSettled(m_program->panel()); }
 
   DesktopSession &session() { return m_session; }
   InputDriver &input() { return m_session.input(); }

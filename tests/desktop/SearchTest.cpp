@@ -97,7 +97,7 @@ TEST_F(SearchTest, ItemOpenedLast_ComesFirstWithoutAQuery) {
 
 TEST_F(SearchTest, ClearButton_EmptiesTheFieldAndKeepsTheKeyboardThere) {
   start(commands({u"Build"_s, u"Deploy"_s}));
-  const QImage before = picture();
+  const QImage before = settledPicture();
   input().type(u"zz"_s);
   // The button appears at the right end of the search row.
   const QRect button = changedArea(before, {600, 44, 90, 40});
@@ -110,7 +110,7 @@ TEST_F(SearchTest, ClearButton_EmptiesTheFieldAndKeepsTheKeyboardThere) {
 TEST_F(SearchTest, ClearButton_GoesAwayWithTheText) {
   start(commands({u"Build"_s, u"Deploy"_s}));
   const QRect corner(600, 44, 90, 40);
-  const QImage before = picture();
+  const QImage before = settledPicture();
   input().type(u"zz"_s);
   const QRect button = changedArea(before, corner);
   input().click(onPanel(button.center()));
@@ -130,7 +130,7 @@ TEST_F(SearchTest, ClickOnARow_OpensIt) {
 TEST_F(SearchTest, ClickOnAHeader_FoldsItsGroup) {
   start(homeAndWork());
   const QRect firstRow = selectNextRow();
-  const QImage before = picture();
+  const QImage before = settledPicture();
   // The header lies right above its first row.
   const QPoint header(firstRow.center().x(), firstRow.top() - 16);
   input().click(onPanel(header));
@@ -146,10 +146,10 @@ TEST_F(SearchTest, SecondClickOnAHeader_UnfoldsItsGroup) {
   const QRect firstRow = selectNextRow();
   const QPoint header(firstRow.center().x(), firstRow.top() - 16);
   const QRect list = picture().rect().adjusted(0, firstRow.top(), 0, 0);
-  const QImage unfolded = picture();
+  const QImage unfolded = settledPicture();
   input().click(onPanel(header));
   changedArea(unfolded, list);
-  const QImage folded = picture();
+  const QImage folded = settledPicture();
   input().click(onPanel(header));
   changedArea(folded, list);
   input().tap(XK_Down);

@@ -27,6 +27,21 @@ class SizeTest : public DesktopTest {
     showByShortcut();
   }
 
+  /// A point that takes hold of the lower right corner: on the edge, right above its rounding.
+  QPoint grip() { return panelGeometry().bottomRight() - QPoint(1, 12); }
+
+  void dragCorner(QPoint distance) {
+    const QRect expected = panelGeometry().adjusted(0, 0, distance.x(), distance.y());
+    dragPanel(grip(), grip() + distance, expected);
+  }
+
+  /// By the middle of the header, between the name and the settings button.
+  void dragHeader() {
+    constexpr QPoint distance(60, 80);
+    dragPanel(onPanel({400, 12}), onPanel({400, 12}) + distance,
+              panelGeometry().translated(distance));
+  }
+
   bool becomesStored(QSize size) {
     return waitUntil([&] {
       return session().home().preference(u"panelWidth"_s) == QString::number(size.width()) &&
@@ -72,56 +87,43 @@ TEST_F(SizeTest, SizesThatAreNoNumbers_FallBack) {
 
 TEST_F(SizeTest, DragOfACorner_ResizesAndStoresTheSize) {
   start(commands({u"Build"_s}));
-  const QRect before = panelGeometry();
-  dragPanel(before.bottomRight() - QPoint(1, 1), before.bottomRight() + QPoint(119, 109));
-  const QSize after = panelGeometry().size();
-  EXPECT_GT(after.width(), before.width() + 100);
-  EXPECT_GT(after.height(), before.height() + 90);
-  EXPECT_TRUE(becomesStored(after));
+  dragCorner({120, 110});
+  EXPECT_TRUE(becomesStored({820, 610}));
 }
 
 TEST_F(SizeTest, ResizedPanel_IsCentredAtItsNewSizeAtTheNextShow) {
   start(commands({u"Build"_s}));
-  const QRect before = panelGeometry();
-  dragPanel(before.bottomRight() - QPoint(1, 1), before.bottomRight() + QPoint(119, 109));
-  const QSize after = panelGeometry().size();
-  ASSERT_NE(after, before.size());
-  ASSERT_TRUE(becomesStored(after));
+  dragCorner({120, 110});
+  ASSERT_TRUE(becomesStored({820, 610}));
   hideAndShow();
-  EXPECT_EQ(panelGeometry(), placed(after));
+  EXPECT_EQ(panelGeometry(), placed({820, 610}));
 }
 
 TEST_F(SizeTest, DragOfTheLeftEdge_ResizesTheWidthAlone) {
   start(commands({u"Build"_s}));
   const QRect before = panelGeometry();
   const QPoint edge(before.left() + 1, before.center().y());
-  dragPanel(edge, edge - QPoint(80, 0));
-  const QRect after = panelGeometry();
-  EXPECT_GT(after.width(), before.width() + 60);
-  EXPECT_EQ(after.height(), before.height());
-  EXPECT_EQ(after.right(), before.right());
+  dragPanel(edge, edge - QPoint(80, 0), before.adjusted(-80, 0, 0, 0));
+  EXPECT_TRUE(becomesStored({780, 500}));
 }
 
 TEST_F(SizeTest, DragFarInwards_StopsAtTheMinimum) {
   start(commands({u"Build"_s}));
   const QRect before = panelGeometry();
-  dragPanel(before.bottomRight() - QPoint(1, 1), before.topLeft() + QPoint(50, 50));
-  EXPECT_EQ(panelGeometry().size(), QSize(400, 300));
+  const QPoint corner = grip();
+  dragPanel(corner, before.topLeft() + QPoint(50, 50), QRect(before.topLeft(), QSize(400, 300)));
   EXPECT_TRUE(becomesStored({400, 300}));
 }
 
 TEST_F(SizeTest, DragOfTheBackground_MovesThePanel) {
   start(commands({u"Build"_s}));
-  const QRect before = panelGeometry();
-  // The middle of the header, between the name and the settings button.
-  dragPanel(onPanel({400, 12}), onPanel({460, 92}));
-  EXPECT_EQ(panelGeometry().size(), before.size());
-  EXPECT_NE(panelGeometry().topLeft(), before.topLeft());
+  dragHeader();
+  EXPECT_NE(panelGeometry(), placed({700, 500}));
 }
 
 TEST_F(SizeTest, MovedPanel_IsCentredAgainAtTheNextShow) {
   start(commands({u"Build"_s}));
-  dragPanel(onPanel({400, 12}), onPanel({460, 92}));
+  dragHeader();
   hideAndShow();
   EXPECT_EQ(panelGeometry(), placed({700, 500}));
   EXPECT_FALSE(session().home().preference(u"panelWidth"_s).has_value());

@@ -14,18 +14,18 @@ class WindowTest : public DesktopTest {
 };
 
 const QStringList &expectedStates() {
-  static const QStringList states{u"_NET_WM_STATE_ABOVE"_s, u"_NET_WM_STATE_STICKY"_s,
-                                  u"_NET_WM_STATE_SKIP_TASKBAR"_s, u"_NET_WM_STATE_SKIP_PAGER"_s};
+  static const QStringList states{u"_NET_WM_STATE_ABOVE"_s, u"_NET_WM_STATE_SKIP_TASKBAR"_s,
+                                  u"_NET_WM_STATE_SKIP_PAGER"_s};
   return states;
 }
 
-TEST_F(WindowTest, Panel_IsAboveStickyAndInNoTaskbarOrPager) {
+TEST_F(WindowTest, Panel_IsAboveOthersOnEveryDesktopAndInNoTaskbarOrPager) {
   start(commands({u"Build"_s}));
   EXPECT_THAT(panelStates(), IsSupersetOf(expectedStates()));
   EXPECT_EQ(session().windows().desktop(program().panel()), 0xFFFFFFFFU);
 }
 
-TEST_F(WindowTest, PanelShownAgain_IsStillAboveStickyAndInNoTaskbarOrPager) {
+TEST_F(WindowTest, PanelShownAgain_IsStillAboveOthersOnEveryDesktopAndInNoTaskbarOrPager) {
   startHidden(commands({u"Build"_s}));
   showByShortcut();
   EXPECT_THAT(panelStates(), IsSupersetOf(expectedStates()));
@@ -64,16 +64,15 @@ TEST_F(WindowTest, RaisedWindow_StaysBelowThePanel) {
 
 TEST_F(WindowTest, Panel_ShowsAPicture) {
   start(commands({u"Build"_s}));
-  EXPECT_TRUE(waitUntil([&] {
-    const QImage panel = picture();
-    QSet<QRgb> colours;
-    for (int y = 0; y < panel.height(); ++y) {
-      for (int x = 0; x < panel.width(); ++x) {
-        colours.insert(panel.pixel(x, y));
-      }
+  const QImage panel = settledPicture();
+  QSet<QRgb> colours;
+  for (int y = 0; y < panel.height(); ++y) {
+    for (int x = 0; x < panel.width(); ++x) {
+      colours.insert(panel.pixel(x, y));
     }
-    return colours.size() > 16;
-  }));
+  }
+  // Smooth letters alone bring many shades with them.
+  EXPECT_GT(colours.size(), 16);
 }
 
 TEST_F(WindowTest, HiddenPanel_IsTheSameWindowWhenShownAgain) {

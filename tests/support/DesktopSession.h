@@ -31,6 +31,9 @@ class DesktopSession {
   /// Null in a session without one.
   SessionBus *bus() { return m_bus.get(); }
 
+  /// Null in a session without one.
+  const WindowManager *windowManager() const { return m_windowManager.get(); }
+
   /// The home's variables with this display and this bus.
   QProcessEnvironment variables() const;
 

@@ -65,7 +65,7 @@ void awaitEventLoop(const XConnection &connection) {
 }  // namespace
 
 WindowManager::WindowManager(const VirtualDisplay &display)
-    : m_process(u"openbox"_s, u"openbox"_s) {
+    : m_displayName(display.name()), m_process(u"openbox"_s, u"openbox"_s) {
   QFile file(m_home.filePath(u"rc.xml"_s));
   if (!file.open(QIODevice::WriteOnly)) {
     throw HarnessError(file.errorString());
@@ -82,8 +82,13 @@ WindowManager::WindowManager(const VirtualDisplay &display)
   environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
   m_process.start({u"--sm-disable"_s, u"--config-file"_s, file.fileName()}, environment);
 
-  const XConnection connection(display.name());
+  const XConnection connection(m_displayName);
   require(u"the window manager"_s, [&] { return isManaged(connection); });
+  settle();
+}
+
+void WindowManager::settle() const {
+  const XConnection connection(m_displayName);
   awaitEventLoop(connection);
 }
 

@@ -18,7 +18,11 @@ class WindowManager {
   /// Starts it and returns once it manages the display.
   explicit WindowManager(const VirtualDisplay &display);
 
+  /// Returns once it has dealt with everything that happened on the display until now.
+  void settle() const;
+
  private:
+  QString m_displayName;
   QTemporaryDir m_home;
   ChildProcess m_process;
 };

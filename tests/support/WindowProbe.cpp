@@ -1,6 +1,9 @@
 #include "support/WindowProbe.h"
 
+#include "support/WaitUntil.h"
+
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace lanternix {
@@ -140,6 +143,24 @@ QImage WindowProbe::grab(xcb_window_t window) const {
   const QImage borrowed(xcb_get_image_data(reply.get()), size.width(), size.height(),
                         QImage::Format_RGB32);
   return borrowed.copy();
+}
+
+QImage WindowProbe::grabSettled(xcb_window_t window) const {
+  QImage picture;
+  require(u"the window's picture"_s, [&] {
+    const QImage now = grab(window);
+    return std::exchange(picture, now) == now && hasContent(now);
+  });
+  return picture;
+}
+
+bool WindowProbe::hasContent(const QImage &picture) {
+  if (picture.isNull()) {
+    return false;
+  }
+  QImage plain(picture.size(), picture.format());
+  plain.fill(picture.pixelColor(0, picture.height() / 2));
+  return picture != plain;
 }
 
 QList<xcb_window_t> WindowProbe::children(xcb_window_t window) const {

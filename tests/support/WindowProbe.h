@@ -53,6 +53,10 @@ class WindowProbe {
   /// The picture of a viewable window as it is on the screen. A null image when there is none.
   QImage grab(xcb_window_t window) const;
   QImage grabRoot() const { return grab(m_connection.root()); }
+  /// The picture once it has content and stays the same from one look to the next.
+  QImage grabSettled(xcb_window_t window) const;
+  /// Whether a picture shows more than one colour; a window that has not drawn yet does not.
+  static bool hasContent(const QImage &picture);
 
   const XConnection &connection() const { return m_connection; }
 

@@ -81,8 +81,10 @@ bool PosixFileManager::writeAtomically(QByteArrayView bytes, const QString &path
     return false;
   }
   QSaveFile file(*target);
+  // commit() overlooks a failure to write what is still in the buffer, or to reach the disk, and
+  // would put the stump in place of a good file.
   if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), bytes.size()) != bytes.size() ||
-      !file.commit()) {
+      !file.flush() || fsync(file.handle()) != 0 || !file.commit()) {
     qCWarning(files) << path << "cannot be written:" << file.errorString();
     return false;
   }

@@ -1,7 +1,8 @@
 #include "Platform/Linux/SettingsUserDefaults.h"
 
 #include "Platform/Linux/BaseDirectories.h"
-#include "Platform/Linux/DirectoryFlush.h"
+#include "Platform/Linux/IniText.h"
+#include "Platform/Linux/PosixFileManager.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -22,11 +23,6 @@ std::optional<QString> textOf(const QVariant &value) {
   return value.typeId() == QMetaType::QString ? std::optional(value.toString()) : std::nullopt;
 }
 
-bool isUtf8(const QString &path) {
-  QFile file(path);
-  return !file.open(QIODevice::ReadOnly) || file.readAll().isValidUtf8();
-}
-
 }  // namespace
 
 UserDefaults &UserDefaults::standard() {
@@ -35,18 +31,18 @@ UserDefaults &UserDefaults::standard() {
 }
 
 SettingsUserDefaults::SettingsUserDefaults(const QString &path)
-    : m_path(path),
-      m_settings(path, QSettings::NativeFormat),
-      m_isUnreadable(m_settings.status() == QSettings::FormatError || !isUtf8(path)) {
-  if (m_isUnreadable) {
-    qCWarning(preferences) << path << "can only be read in part";
+    : m_path(path), m_settings(path, QSettings::NativeFormat) {
+  m_settings.allKeys();  // reads every section
+  if (m_settings.status() != QSettings::NoError) {
+    qCWarning(preferences) << path << "can be read in part at best";
   }
 }
 
 template <typename Value, typename Parse>
 StoredValue<Value> SettingsUserDefaults::read(const char *key, Parse parse) const {
   using State = typename StoredValue<Value>::State;
-  const QVariant stored = m_settings.value(QLatin1StringView(key));
+  const QLatin1StringView name(key);
+  const QVariant stored = m_written.value(name, m_settings.value(name));
   if (!stored.isValid()) {
     return {State::absent, {}};
   }
@@ -137,28 +133,15 @@ void SettingsUserDefaults::setDate(const Date &value, const char *key) {
 }
 
 void SettingsUserDefaults::write(const QVariant &value, const char *key) {
-  keepUnreadableFile();
-  // An object of its own, which shares the content of m_settings: a status once set stays set.
-  QSettings settings(m_path, QSettings::NativeFormat);
-  settings.setValue(QLatin1StringView(key), value);
-  settings.sync();
-  if (settings.status() == QSettings::AccessError) {
+  m_written.insert(QLatin1StringView(key), value);
+  PosixFileManager files;
+  // As it is now, because a person or another program may have edited it meanwhile.
+  const std::optional<QByteArray> text = files.contents(m_path);
+  const bool mayReplace = text.has_value() || !QFileInfo::exists(m_path);
+  if (!mayReplace || !files.createDirectory(QFileInfo(m_path).path()) ||
+      !files.writeAtomically(withIniValue(text.value_or(QByteArray()), key, value), m_path)) {
     qCWarning(preferences) << key << "cannot be saved to" << m_path;
-    return;
   }
-  flushDirectory(QFileInfo(m_path).path());
-}
-
-void SettingsUserDefaults::keepUnreadableFile() {
-  if (!m_isUnreadable) {
-    return;
-  }
-  m_isUnreadable = false;
-  QString copy = m_path + u".unreadable"_s;
-  for (int number = 2; !QFile::copy(m_path, copy) && QFile::exists(copy); ++number) {
-    copy = m_path + u".unreadable-"_s + QString::number(number);
-  }
-  qCWarning(preferences) << m_path << "will be written anew; it was kept as" << copy;
 }
 
 }  // namespace lanternix

@@ -2,6 +2,7 @@
 
 #include "Platform/UserDefaults.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QSettings>
 #include <QtCore/QVariant>
 
@@ -11,8 +12,8 @@ namespace lanternix {
 /// [General]. All values are text there, so what reads as a value of the wanted type is one.
 /// Booleans are "true" and "false", dates ISO 8601 with an offset, data "@ByteArray(...)".
 ///
-/// Keys and sections that the program does not know stay as they are. A file that cannot be
-/// understood to its end is kept under another name before the first write replaces it.
+/// A write changes the one value and leaves the rest of the file as it is, whatever it holds. What
+/// cannot be written is logged, and holds for as long as the program runs.
 class SettingsUserDefaults final : public UserDefaults {
  public:
   /// The store in the file at \p path, which need not exist.
@@ -38,11 +39,12 @@ class SettingsUserDefaults final : public UserDefaults {
   StoredValue<Value> read(const char *key, Parse parse) const;
   /// \p value is text or data.
   void write(const QVariant &value, const char *key);
-  void keepUnreadableFile();
 
   QString m_path;
+  /// The file as it was at the start; only read from.
   QSettings m_settings;
-  bool m_isUnreadable;
+  /// What was written since.
+  QHash<QString, QVariant> m_written;
 };
 
 }  // namespace lanternix

@@ -187,6 +187,11 @@ void PanelListView::mousePressEvent(QMouseEvent *event) {
   event->setAccepted(m_pressedRow >= 0);
 }
 
+void PanelListView::mouseDoubleClickEvent(QMouseEvent *event) {
+  // The second of two quick presses is a press like any other.
+  mousePressEvent(event);
+}
+
 void PanelListView::mouseMoveEvent(QMouseEvent *event) {
   setHoveredRow(rowAt(event->position().toPoint()));
   event->setAccepted(m_pressedRow >= 0);

@@ -33,6 +33,7 @@ class PanelListView : public QAbstractScrollArea {
   void changeEvent(QEvent *event) override;
   bool viewportEvent(QEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
+  void mouseDoubleClickEvent(QMouseEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;
   void mouseReleaseEvent(QMouseEvent *event) override;
   void contextMenuEvent(QContextMenuEvent *event) override;

@@ -46,7 +46,7 @@ QScreen *X11WindowSystem::activeScreen() const {
 void X11WindowSystem::preparePanel(QWindow &window) {
   const xcb_window_t panel = nativeWindow(window);
   // A window manager that has not yet carried out the last hiding will wipe what is written now.
-  m_statesAtRisk = isManaged(panel);
+  m_marksAtRisk = isManaged(panel);
 
   const std::array types{m_atoms[X11Atoms::netWmWindowTypeUtility]};
   const std::array states{m_atoms[X11Atoms::netWmStateAbove], m_atoms[X11Atoms::netWmStateSticky],
@@ -78,8 +78,8 @@ void X11WindowSystem::activate(QWindow &window) {
   }
   // The window manager meets these after the request to show the window, which it answers first.
   setUserTime(panel);
-  if (std::exchange(m_statesAtRisk, false)) {
-    addStates(panel);
+  if (std::exchange(m_marksAtRisk, false)) {
+    addMarks(panel);
   }
   sendToWindowManager(panel, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.last()});
   xcb_flush(connection);
@@ -137,7 +137,7 @@ void X11WindowSystem::setUserTime(xcb_window_t window) {
   }
 }
 
-void X11WindowSystem::addStates(xcb_window_t window) {
+void X11WindowSystem::addMarks(xcb_window_t window) {
   constexpr quint32 add = 1;
   sendToWindowManager(
       window, X11Atoms::netWmState,
@@ -145,6 +145,7 @@ void X11WindowSystem::addStates(xcb_window_t window) {
   sendToWindowManager(window, X11Atoms::netWmState,
                       {add, m_atoms[X11Atoms::netWmStateSkipTaskbar],
                        m_atoms[X11Atoms::netWmStateSkipPager], sourcePager});
+  sendToWindowManager(window, X11Atoms::netWmDesktop, {everyDesktop, sourcePager});
 }
 
 void X11WindowSystem::sendToWindowManager(xcb_window_t window, X11Atoms::Name type,

@@ -27,15 +27,15 @@ class X11WindowSystem : public QtWindowSystem {
   bool hasWindowManager() const;
   bool isManaged(xcb_window_t window) const;
   void setUserTime(xcb_window_t window);
-  void addStates(xcb_window_t window);
+  void addMarks(xcb_window_t window);
   void sendToWindowManager(xcb_window_t window, X11Atoms::Name type,
                            const std::array<quint32, 5> &data);
 
   const X11Server &m_server;
   const X11EventTime &m_eventTime;
   mutable X11Atoms m_atoms;
-  /// Whether the window manager was about to wipe the panel's states when they were written.
-  bool m_statesAtRisk = false;
+  /// Whether the window manager was about to wipe the panel's marks when they were written.
+  bool m_marksAtRisk = false;
 };
 
 }  // namespace lanternix

@@ -233,10 +233,10 @@ TEST_F(X11HotkeyRegistrarTest, CharacterKey_StaysOnItsPositionInAnotherLayout) {
 
 TEST_F(X11HotkeyRegistrarTest, NamedKey_IsFollowedToWhereItsOwnerPutsIt) {
   const KeyboardMap restored;
-  OtherClient other(testDisplay().name());
   ASSERT_TRUE(registrar.registerHotkey(escape, classicCommand));
   KeyboardMap::set({u"us"_s, u"-option"_s, u"caps:swapescape"_s});
   input.refreshKeyboard();
+  OtherClient other(testDisplay().name());
   // Held once the new place refuses others.
   ASSERT_TRUE(waitUntil([&] { return isHeld(other, XK_Escape, XCB_MOD_MASK_4); }));
   input.tap(XK_Escape, {XK_Super_L});

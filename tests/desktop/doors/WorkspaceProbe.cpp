@@ -2,7 +2,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTextStream>
-#include <QtCore/QTimer>
 
 namespace {
 
@@ -31,7 +30,7 @@ void carryOut(lanternix::Workspace &workspace, const QStringList &request) {
 // "stay" before the request it lives on instead.
 int main(int argc, char **argv) {
   const QCoreApplication application(argc, argv);
-  QStringList request = QCoreApplication::arguments().mid(1);
+  const QStringList request = QCoreApplication::arguments().mid(1);
   const bool stays = request.value(0) == "stay"_L1;
   lanternix::GioWorkspace workspace;
   carryOut(workspace, request.mid(stays ? 1 : 0));

@@ -96,7 +96,7 @@ void writeMember(JsonWriter &writer, std::string_view key, const std::optional<D
 template <typename Record>
 struct Field {
   std::string_view key;
-  bool isRequired;
+  bool isRequired = true;
   bool (*read)(JsonReader &, Record &);
   void (*write)(JsonWriter &, std::string_view, const Record &);
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QtGlobal>
+#include <QtCore/QElapsedTimer>
 
 namespace lanternix {
 
@@ -8,12 +8,21 @@ namespace lanternix {
 /// proof that a window asks for the keyboard because of that action.
 class X11EventTime {
  public:
-  /// 0 until there has been an action.
-  quint32 last() const { return m_last; }
-  void note(quint32 serverTime) { m_last = serverTime; }
+  /// 0, which stands for the present, when the last action is too long ago to be what the program
+  /// answers to: an old time would be taken as proof of the contrary.
+  quint32 recent() const {
+    constexpr qint64 longestAnswer = 1000;  // milliseconds
+    return m_age.isValid() && !m_age.hasExpired(longestAnswer) ? m_last : 0;
+  }
+
+  void note(quint32 serverTime) {
+    m_last = serverTime;
+    m_age.start();
+  }
 
  private:
   quint32 m_last = 0;
+  QElapsedTimer m_age;
 };
 
 }  // namespace lanternix

@@ -81,7 +81,7 @@ void X11WindowSystem::activate(QWindow &window) {
   if (std::exchange(m_marksAtRisk, false)) {
     addMarks(panel);
   }
-  sendToWindowManager(panel, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.last()});
+  sendToWindowManager(panel, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.recent()});
   xcb_flush(connection);
 }
 
@@ -130,7 +130,7 @@ bool X11WindowSystem::isManaged(xcb_window_t window) const {
 }
 
 void X11WindowSystem::setUserTime(xcb_window_t window) {
-  const quint32 time = m_eventTime.last();
+  const quint32 time = m_eventTime.recent();
   if (time != 0) {  // which would say that the window does not want the keyboard
     xcb_change_property(m_server.connection(), XCB_PROP_MODE_REPLACE, window,
                         m_atoms[X11Atoms::netWmUserTime], XCB_ATOM_CARDINAL, bitsPerItem, 1, &time);

@@ -46,7 +46,7 @@ class XInputMouseMonitorTest : public testing::Test {
   void clickHeard(QPoint position, quint8 button = leftButton) {
     eventTime.note(0);
     input.click(position, button);
-    ASSERT_TRUE(waitUntil([&] { return eventTime.last() != 0; }));
+    ASSERT_TRUE(waitUntil([&] { return eventTime.recent() != 0; }));
   }
 
   /// Presses where it counts, which is told after everything that was pressed before.
@@ -161,7 +161,7 @@ TEST_F(XInputMouseMonitorTest, Press_NotesTheServersTime) {
   setActive(true);
   input.click(onDesktop);
   ASSERT_TRUE(waitForPresses(1));
-  EXPECT_NE(eventTime.last(), 0U);
+  EXPECT_NE(eventTime.recent(), 0U);
 }
 
 }  // namespace

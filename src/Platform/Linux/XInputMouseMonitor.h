@@ -25,6 +25,7 @@ class XInputMouseMonitor : public GlobalMouseMonitor, public QAbstractNativeEven
   bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
  private:
+  void select(bool active);
   bool isWatchedPress(const xcb_generic_event_t &event) const;
   bool isPointerOverOwnWindow() const;
   xcb_window_t topLevelOf(xcb_window_t window) const;

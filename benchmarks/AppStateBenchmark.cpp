@@ -1,13 +1,7 @@
 #include "App/AppState.h"
 #include "App/SearchIndex.h"
-#include "Platform/Linux/PosixFileManager.h"
-#include "Platform/Linux/SettingsUserDefaults.h"
 #include "SampleData.h"
-#include "support/FakeClock.h"
-#include "support/FakeHotkeyRegistrar.h"
-#include "support/FakeProcessLauncher.h"
-#include "support/FakeWorkspace.h"
-#include "support/TemporaryHome.h"
+#include "support/StoreFixture.h"
 
 #include <benchmark/benchmark.h>
 
@@ -16,17 +10,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-// A store over real files; only the desktop behind it is quiet.
-struct Store {
-  TemporaryHome home;
-  FakeClock clock;
-  FakeHotkeyRegistrar hotkeyRegistrar;
-  FakeWorkspace workspace;
-  FakeProcessLauncher processLauncher;
-  PosixFileManager fileManager;
-  SettingsUserDefaults userDefaults{home.preferencesFile()};
-  Doors doors{fileManager, userDefaults, hotkeyRegistrar, workspace, processLauncher, clock};
-
+// A home with so many items in its data file.
+struct Store : StoreFixture {
   explicit Store(qsizetype itemCount) {
     TemporaryHome::write(home.dataFile(), *sampleData(itemCount).encoded());
   }
@@ -35,7 +20,7 @@ struct Store {
 // Typing and taking back a letter, with the reads of a view that copies what it shows.
 void search(benchmark::State &state, const QString &query) {
   Store store(state.range(0));
-  AppState appState(store.doors);
+  AppState appState(store.doors());
   appState.setSearchQuery(u"warm up"_s);
   for (auto iteration : state) {
     appState.setSearchQuery(query);
@@ -70,7 +55,7 @@ BENCHMARK_CAPTURE(search, accented, u"résumé"_s)
 // The same for a view that reads positions.
 void searchByPosition(benchmark::State &state) {
   Store store(state.range(0));
-  AppState appState(store.doors);
+  AppState appState(store.doors());
   appState.setSearchQuery(u"warm up"_s);
   for (auto iteration : state) {
     appState.setSearchQuery(u"a"_s);
@@ -111,9 +96,9 @@ BENCHMARK_CAPTURE(buildIndex, ascii, true)
 
 void start(benchmark::State &state) {
   Store store(state.range(0));
-  const AppState firstOfTheDay(store.doors);  // makes the daily backup
+  const AppState firstOfTheDay(store.doors());  // makes the daily backup
   for (auto iteration : state) {
-    const AppState appState(store.doors);
+    const AppState appState(store.doors());
     benchmark::DoNotOptimize(appState.filteredGroupPositions());
   }
 }
@@ -121,7 +106,7 @@ BENCHMARK(start)->Arg(1'000)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillis
 
 void openItem(benchmark::State &state) {
   Store store(state.range(0));
-  AppState appState(store.doors);
+  AppState appState(store.doors());
   for (auto iteration : state) {
     appState.openItem(appState.items().back());
     store.processLauncher.launches.clear();

@@ -18,7 +18,9 @@ struct Date {
   QDateTime toDateTime() const;
 
   friend bool operator==(const Date &, const Date &) = default;
-  friend auto operator<=>(const Date &, const Date &) = default;
+  friend auto operator<=>(const Date &first, const Date &second) {
+    return first.secondsSinceReferenceDate <=> second.secondsSinceReferenceDate;
+  }
 };
 
 /// Hash of the instant; equal dates hash alike.

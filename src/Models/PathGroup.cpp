@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 struct NamedColor {
   QLatin1StringView name;
-  SystemColor color;
+  SystemColor color = SystemColor::blue;
 };
 
 constexpr std::array namedColors{

@@ -30,3 +30,6 @@ struct PathGroup {
 size_t qHash(const PathGroup &group, size_t seed = 0) noexcept;
 
 }  // namespace lanternix
+
+// Lists may move it as bytes.
+Q_DECLARE_TYPEINFO(lanternix::PathGroup, Q_RELOCATABLE_TYPE);

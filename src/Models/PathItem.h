@@ -37,3 +37,6 @@ struct PathItem {
 size_t qHash(const PathItem &item, size_t seed = 0) noexcept;
 
 }  // namespace lanternix
+
+// Lists may move it as bytes.
+Q_DECLARE_TYPEINFO(lanternix::PathItem, Q_RELOCATABLE_TYPE);

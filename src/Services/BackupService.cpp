@@ -119,7 +119,7 @@ QString BackupService::backupsDirectory() {
   if (support.isEmpty()) {
     qFatal("Lanternix has no place for its backups: the user has no home directory");
   }
-  const QString directory = support + u"/Lanternix/backups"_s;
+  QString directory = support + u"/Lanternix/backups"_s;
   if (!m_fileManager.createDirectory(directory)) {
     qCWarning(backup) << "the directory" << directory << "cannot be created";
   }

@@ -7,6 +7,7 @@
 #include <array>
 #include <bitset>
 #include <cmath>
+#include <string_view>
 
 namespace lanternix {
 
@@ -79,13 +80,13 @@ void writeValue(JsonWriter &writer, const QList<PathGroup> &groups);
 void writeValue(JsonWriter &writer, const QList<PathItem> &items);
 
 template <typename Value>
-void writeMember(JsonWriter &writer, QByteArrayView key, const Value &value) {
+void writeMember(JsonWriter &writer, std::string_view key, const Value &value) {
   writer.writeKey(key);
   writeValue(writer, value);
 }
 
 /// An absent value has no member at all.
-void writeMember(JsonWriter &writer, QByteArrayView key, const std::optional<Date> &value) {
+void writeMember(JsonWriter &writer, std::string_view key, const std::optional<Date> &value) {
   if (value.has_value()) {
     writeMember(writer, key, *value);
   }
@@ -94,31 +95,31 @@ void writeMember(JsonWriter &writer, QByteArrayView key, const std::optional<Dat
 /// How one member of a record is read and written.
 template <typename Record>
 struct Field {
-  QByteArrayView key;
-  bool isRequired;
+  std::string_view key;
+  bool isRequired = true;
   bool (*read)(JsonReader &, Record &);
-  void (*write)(JsonWriter &, QByteArrayView, const Record &);
+  void (*write)(JsonWriter &, std::string_view, const Record &);
 };
 
 /// A member that every document has.
 template <auto member, typename Record>
-constexpr Field<Record> required(QByteArrayView key) {
+constexpr Field<Record> required(std::string_view key) {
   return {key, true,
           [](JsonReader &reader, Record &record) { return readValue(reader, record.*member); },
-          [](JsonWriter &writer, QByteArrayView name, const Record &record) {
+          [](JsonWriter &writer, std::string_view name, const Record &record) {
             writeMember(writer, name, record.*member);
           }};
 }
 
 /// A member that may be missing or null, which leaves it as a fresh record has it.
 template <auto member, typename Record>
-constexpr Field<Record> optional(QByteArrayView key) {
+constexpr Field<Record> optional(std::string_view key) {
   return {key, false,
           [](JsonReader &reader, Record &record) {
             record.*member = Record().*member;
             return reader.skipNull() || readValue(reader, record.*member);
           },
-          [](JsonWriter &writer, QByteArrayView name, const Record &record) {
+          [](JsonWriter &writer, std::string_view name, const Record &record) {
             writeMember(writer, name, record.*member);
           }};
 }
@@ -145,6 +146,20 @@ constexpr std::array groupFields{
     required<&PathGroup::order, PathGroup>("order"),
 };
 
+/// The index of the field with this key, \p count when there is none. Tried from \p guess on,
+/// because documents mostly have their keys in the order of the table.
+template <typename Record, std::size_t count>
+std::size_t indexOf(std::string_view key, const std::array<Field<Record>, count> &fields,
+                    std::size_t guess) {
+  for (std::size_t i = 0; i < count; ++i) {
+    const std::size_t index = (guess + i) % count;
+    if (fields[index].key == key) {
+      return index;
+    }
+  }
+  return count;
+}
+
 /// Reads an object: each known member by its field, the others not at all.
 template <typename Record, std::size_t count>
 bool readRecord(JsonReader &reader, Record &record,
@@ -153,14 +168,16 @@ bool readRecord(JsonReader &reader, Record &record,
     return false;
   }
   std::bitset<count> seen;
+  std::size_t index = 0;
   QByteArrayView key;
   while (reader.nextMember(key)) {
-    const auto field = std::find_if(fields.begin(), fields.end(),
-                                    [key](const auto &known) { return known.key == key; });
-    if (field == fields.end()) {
+    const std::string_view name(key.data(), static_cast<std::size_t>(key.size()));
+    const std::size_t found = indexOf(name, fields, index);
+    if (found == count) {
       reader.skipValue();
-    } else if (field->read(reader, record)) {
-      seen.set(static_cast<std::size_t>(field - fields.begin()));
+    } else if (fields[found].read(reader, record)) {
+      seen.set(found);
+      index = found + 1;
     }
   }
   for (std::size_t i = 0; i < count; ++i) {

@@ -16,7 +16,7 @@ struct DataDocument {
   QList<PathGroup> groups;
   QList<PathItem> items;
 
-  /// The UTF-8 JSON text. Equal documents give equal bytes. None when a date is not finite, which
+  /// The UTF-8 JSON text. The same document gives the same bytes. None when a date is not finite, which
   /// JSON cannot express.
   std::optional<QByteArray> encoded() const;
 

@@ -231,7 +231,7 @@ bool JsonReader::fail(const char *error) {
   return failAt(m_value, error);
 }
 
-bool JsonReader::failForMissing(QByteArrayView key) {
+bool JsonReader::failForMissing(std::string_view key) {
   if (!hasFailed()) {
     m_missingKey = key;
   }
@@ -251,8 +251,9 @@ QString JsonReader::error() const {
     return {};
   }
   QString error = QString::fromLatin1(m_error);
-  if (!m_missingKey.isEmpty()) {
-    error = error.arg(QString::fromUtf8(m_missingKey));
+  if (!m_missingKey.empty()) {
+    error = error.arg(
+        QString::fromUtf8(m_missingKey.data(), static_cast<qsizetype>(m_missingKey.size())));
   }
   return error + u" at byte "_s + QString::number(m_errorPosition - m_begin);
 }

@@ -6,6 +6,7 @@
 #include <QtCore/QString>
 
 #include <bitset>
+#include <string_view>
 
 class QUuid;
 
@@ -60,7 +61,7 @@ class JsonReader {
   /// Records a failure of the caller's: what was just read does not serve. Returns false.
   bool fail(const char *error);
   /// Records that the object just left lacks a member that it must have. Returns false.
-  bool failForMissing(QByteArrayView key);
+  bool failForMissing(std::string_view key);
   /// What was wrong, such as "a string is expected at byte 17"; empty when nothing was.
   QString error() const;
 
@@ -88,7 +89,7 @@ class JsonReader {
 
   JsonStringReader m_string;
   const char *m_error = nullptr;
-  QByteArrayView m_missingKey;
+  std::string_view m_missingKey;
   const char *m_errorPosition = nullptr;
 };
 

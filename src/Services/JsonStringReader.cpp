@@ -3,6 +3,7 @@
 #include <QtCore/QChar>
 #include <QtCore/QtEndian>
 
+#include <bit>
 #include <cstring>
 
 namespace lanternix {
@@ -13,22 +14,46 @@ constexpr quint64 inEachByte(quint64 byte) {
   return byte * 0x0101'0101'0101'0101U;
 }
 
-/// Whether one of the eight bytes is zero.
-constexpr bool hasZeroByte(quint64 bytes) {
-  return ((bytes - inEachByte(0x01)) & ~bytes & inEachByte(0x80)) != 0;
+/// The highest bit of the first of eight bytes that is below \p limit, and perhaps of later ones;
+/// no bit when there is none. \p limit is at most 0x80.
+constexpr quint64 bytesBelow(quint64 bytes, quint64 limit) {
+  return (bytes - inEachByte(limit)) & ~bytes & inEachByte(0x80);
 }
 
-/// Whether one of the eight bytes ends a run of plain text: a quote, a backslash or a control
-/// character. Eight at a time, because a document is mostly text.
-constexpr bool hasSpecialByte(quint64 bytes) {
-  const bool hasControl = ((bytes - inEachByte(0x20)) & ~bytes & inEachByte(0x80)) != 0;
-  return hasControl || hasZeroByte(bytes ^ inEachByte('"')) ||
-         hasZeroByte(bytes ^ inEachByte('\\'));
+/// How many of eight bytes, the first being the lowest, stand before one that ends a run of plain
+/// text: a quote, a backslash or a control character. Eight at a time, because a document is mostly
+/// text.
+int plainBytes(quint64 bytes) {
+  const quint64 special = bytesBelow(bytes, 0x20) | bytesBelow(bytes ^ inEachByte('"'), 1) |
+                          bytesBelow(bytes ^ inEachByte('\\'), 1);
+  return std::countr_zero(special) / 8;
 }
 
 constexpr bool isSpecial(char character) {
   const auto byte = static_cast<unsigned char>(character);
   return byte < 0x20 || byte == '"' || byte == '\\';
+}
+
+/// What the letter behind a backslash stands for; NUL where it stands for nothing.
+constexpr char meaningOfEscape(char letter) {
+  switch (letter) {
+    case '"':
+    case '\\':
+    case '/':
+      return letter;
+    case 'b':
+      return '\b';
+    case 'f':
+      return '\f';
+    case 'n':
+      return '\n';
+    case 'r':
+      return '\r';
+    case 't':
+      return '\t';
+    default:
+      return '\0';
+  }
 }
 
 /// The value of a hexadecimal digit in either case, -1 for anything else.
@@ -45,14 +70,14 @@ constexpr int hexadecimalDigit(char character) {
 const char *JsonStringReader::read(const char *position, const char *end) {
   m_position = position;
   m_end = end;
-  m_isAscii = true;
+  m_seen = 0;
   scanPlainText();
   if (m_position != m_end && *m_position == '"') {
     m_content = QByteArrayView(position, m_position);
   } else if (!readEscapedText(position)) {
     return nullptr;
   }
-  if (!m_isAscii && !m_content.isValidUtf8()) {
+  if (!isAscii() && !m_content.isValidUtf8()) {
     fail(position, "a string is not UTF-8");
     return nullptr;
   }
@@ -60,9 +85,9 @@ const char *JsonStringReader::read(const char *position, const char *end) {
 }
 
 bool JsonStringReader::readEscapedText(const char *start) {
-  m_resolved.resize(0);
+  m_resolved.clear();
   while (m_position != m_end && *m_position == '\\') {
-    m_resolved.append(start, m_position - start);
+    m_resolved.append(start, m_position);
     if (!appendEscape()) {
       return false;
     }
@@ -75,27 +100,29 @@ bool JsonStringReader::readEscapedText(const char *start) {
   if (*m_position != '"') {
     return fail(m_position, "a string holds a bare control character");
   }
-  m_resolved.append(start, m_position - start);
-  m_content = m_resolved;
+  m_resolved.append(start, m_position);
+  m_content = QByteArrayView(m_resolved.data(), static_cast<qsizetype>(m_resolved.size()));
   return true;
 }
 
 void JsonStringReader::scanPlainText() {
-  quint64 seen = 0;
   constexpr qptrdiff step = sizeof(quint64);
   while (m_end - m_position >= step) {
-    const auto bytes = qFromUnaligned<quint64>(m_position);
-    if (hasSpecialByte(bytes)) {
-      break;
+    const auto bytes = qFromLittleEndian<quint64>(m_position);
+    const int plain = plainBytes(bytes);
+    if (plain < step) {
+      const quint64 counted = (quint64{1} << (8 * plain)) - 1;
+      m_seen |= bytes & counted;
+      m_position += plain;
+      return;
     }
-    seen |= bytes;
+    m_seen |= bytes;
     m_position += step;
   }
   while (m_position != m_end && !isSpecial(*m_position)) {
-    seen |= static_cast<unsigned char>(*m_position);
+    m_seen |= static_cast<unsigned char>(*m_position);
     ++m_position;
   }
-  m_isAscii = m_isAscii && (seen & inEachByte(0x80)) == 0;
 }
 
 bool JsonStringReader::appendEscape() {
@@ -103,18 +130,15 @@ bool JsonStringReader::appendEscape() {
   if (m_position == m_end) {
     return fail(m_position, "a string has no end");
   }
-  const char letter = *m_position;
-  constexpr QByteArrayView letters = "\"\\/bfnrt";
-  constexpr QByteArrayView meanings = "\"\\/\b\f\n\r\t";
-  if (letter == 'u') {
+  if (*m_position == 'u') {
     ++m_position;
     return appendUnicodeEscape();
   }
-  const qsizetype index = letters.indexOf(letter);
-  if (index < 0) {
+  const char meaning = meaningOfEscape(*m_position);
+  if (meaning == '\0') {
     return fail(m_position, "an escape is unknown");
   }
-  m_resolved.append(meanings[index]);
+  m_resolved.push_back(meaning);
   ++m_position;
   return true;
 }
@@ -143,7 +167,7 @@ bool JsonStringReader::appendUnicodeEscape() {
     codePoint =
         QChar::surrogateToUcs4(static_cast<char16_t>(codePoint), static_cast<char16_t>(low));
   }
-  m_isAscii = m_isAscii && codePoint < 0x80;
+  m_seen |= codePoint < 0x80 ? 0 : 0x80;
   appendUtf8(codePoint);
   return true;
 }
@@ -165,7 +189,7 @@ bool JsonStringReader::readCodeUnit(char32_t &unit) {
 }
 
 void JsonStringReader::appendUtf8(char32_t codePoint) {
-  const auto append = [this](char32_t byte) { m_resolved.append(static_cast<char>(byte)); };
+  const auto append = [this](char32_t byte) { m_resolved.push_back(static_cast<char>(byte)); };
   const auto appendContinuation = [append](char32_t bits) { append(0x80 | (bits & 0x3f)); };
   if (codePoint < 0x80) {
     append(codePoint);

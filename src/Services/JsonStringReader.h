@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QtCore/QByteArray>
+#include <QtCore/QByteArrayView>
+
+#include <string>
 
 namespace lanternix {
 
@@ -15,7 +17,7 @@ class JsonStringReader {
   /// The text, UTF-8. Points into what was read where no escape had to be resolved; either way it
   /// holds until the next read().
   QByteArrayView content() const { return m_content; }
-  bool isAscii() const { return m_isAscii; }
+  bool isAscii() const { return (m_seen & 0x8080'8080'8080'8080U) == 0; }
 
   /// What made the last read() fail, and where.
   const char *error() const { return m_error; }
@@ -33,8 +35,9 @@ class JsonStringReader {
   const char *m_position = nullptr;
   const char *m_end = nullptr;
   QByteArrayView m_content;
-  QByteArray m_resolved;
-  bool m_isAscii = true;
+  std::string m_resolved;
+  /// Every byte of the text, laid over each other eight abreast.
+  quint64 m_seen = 0;
   const char *m_error = nullptr;
   const char *m_errorPosition = nullptr;
 };

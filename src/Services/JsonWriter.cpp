@@ -7,6 +7,7 @@
 #include <QtCore/QtEndian>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstring>
 #include <utility>
@@ -15,13 +16,26 @@ namespace lanternix {
 
 namespace {
 
-constexpr QByteArrayView lowerCaseDigits = "0123456789abcdef";
-constexpr QByteArrayView upperCaseDigits = "0123456789ABCDEF";
+constexpr std::string_view lowerCaseDigits = "0123456789abcdef";
+constexpr std::string_view upperCaseDigits = "0123456789ABCDEF";
 
-/// Whether a character goes into a string as the one byte that it is.
-constexpr bool isPlain(char16_t unit) {
-  return unit >= 0x20 && unit < 0x80 && unit != u'"' && unit != u'\\' && unit != u'/';
-}
+/// By character: whether it goes into a string as the one byte that it is.
+constexpr std::array<bool, 128> plainCharacters = [] {
+  std::array<bool, 128> plain{};
+  for (std::size_t i = 0x20; i < plain.size(); ++i) {
+    plain[i] = i != '"' && i != '\\' && i != '/';
+  }
+  return plain;
+}();
+
+/// By byte: its two upper-case hexadecimal digits.
+constexpr std::array<std::array<char, 2>, 256> bytesInDigits = [] {
+  std::array<std::array<char, 2>, 256> digits{};
+  for (std::size_t i = 0; i < digits.size(); ++i) {
+    digits[i] = {upperCaseDigits[i >> 4], upperCaseDigits[i & 0xf]};
+  }
+  return digits;
+}();
 
 }  // namespace
 
@@ -62,7 +76,7 @@ void JsonWriter::startLine() {
   m_position += indent;
 }
 
-void JsonWriter::writeKey(QByteArrayView key) {
+void JsonWriter::writeKey(std::string_view key) {
   beginEntry();
   append('"');
   append(key);
@@ -73,40 +87,51 @@ void JsonWriter::writeString(QStringView text) {
   append('"');
   const char16_t *unit = text.utf16();
   const char16_t *const end = unit + text.size();
-  for (; unit != end; ++unit) {
+  while (unit != end) {
+    constexpr qsizetype blockSize = 64;
     constexpr qsizetype longestCharacter = 6;  // an escape with four digits
-    reserve(longestCharacter);
-    if (isPlain(*unit)) {
-      *m_position++ = static_cast<char>(*unit);
-    } else if (*unit < 0x80 && *unit != 0x7f) {
-      appendEscaped(*unit);
-    } else if (!QChar::isSurrogate(*unit)) {
-      appendUtf8(*unit);
-    } else if (QChar::isHighSurrogate(*unit) && unit + 1 != end && QChar::isLowSurrogate(unit[1])) {
-      appendUtf8(QChar::surrogateToUcs4(unit[0], unit[1]));
-      ++unit;
-    } else {
-      appendUtf8(QChar::ReplacementCharacter);
+    const char16_t *const blockEnd = unit + std::min<qsizetype>(end - unit, blockSize);
+    reserve(blockSize * longestCharacter);
+    while (unit < blockEnd) {
+      if (*unit < plainCharacters.size() && plainCharacters[*unit]) {
+        *m_position++ = static_cast<char>(*unit++);
+      } else {
+        unit = putCharacter(unit, end);
+      }
     }
   }
   append('"');
 }
 
-void JsonWriter::appendEscaped(char16_t unit) {
+const char16_t *JsonWriter::putCharacter(const char16_t *unit, const char16_t *end) {
+  if (*unit < 0x80 && *unit != 0x7f) {
+    putEscaped(*unit);
+  } else if (!QChar::isSurrogate(*unit)) {
+    putUtf8(*unit);
+  } else if (QChar::isHighSurrogate(*unit) && unit + 1 != end && QChar::isLowSurrogate(unit[1])) {
+    putUtf8(QChar::surrogateToUcs4(unit[0], unit[1]));
+    return unit + 2;
+  } else {
+    putUtf8(QChar::ReplacementCharacter);
+  }
+  return unit + 1;
+}
+
+void JsonWriter::putEscaped(char16_t unit) {
   *m_position++ = '\\';
-  constexpr QByteArrayView meanings = "\"\\/\b\f\n\r\t";
-  constexpr QByteArrayView letters = "\"\\/bfnrt";
-  const qsizetype index = meanings.indexOf(static_cast<char>(unit));
-  if (index >= 0) {
+  constexpr std::string_view meanings = "\"\\/\b\f\n\r\t";
+  constexpr std::string_view letters = "\"\\/bfnrt";
+  if (const std::size_t index = meanings.find(static_cast<char>(unit)); index < letters.size()) {
     *m_position++ = letters[index];
     return;
   }
-  append("u00");
-  append(lowerCaseDigits[unit >> 4]);
-  append(lowerCaseDigits[unit & 0xf]);
+  for (const char character :
+       {'u', '0', '0', lowerCaseDigits[unit >> 4], lowerCaseDigits[unit & 0xf]}) {
+    *m_position++ = character;
+  }
 }
 
-void JsonWriter::appendUtf8(char32_t codePoint) {
+void JsonWriter::putUtf8(char32_t codePoint) {
   const auto put = [this](char32_t byte) { *m_position++ = static_cast<char>(byte); };
   const auto putContinuation = [put](char32_t bits) { put(0x80 | (bits & 0x3f)); };
   if (codePoint < 0x80) {
@@ -129,22 +154,24 @@ void JsonWriter::appendUtf8(char32_t codePoint) {
 void JsonWriter::writeUuid(const QUuid &uuid) {
   constexpr qsizetype length = 38;  // with the quotes
   reserve(length);
-  const auto put = [this](quint64 value, int digits) {
-    for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4) {
-      *m_position++ = upperCaseDigits[static_cast<qsizetype>((value >> shift) & 0xf)];
+  const auto put = [this](quint64 value, int byteCount) {
+    for (int shift = 8 * (byteCount - 1); shift >= 0; shift -= 8) {
+      const std::array<char, 2> &digits = bytesInDigits[(value >> shift) & 0xff];
+      *m_position++ = digits[0];
+      *m_position++ = digits[1];
     }
   };
   *m_position++ = '"';
-  put(uuid.data1, 8);
+  put(uuid.data1, 4);
   *m_position++ = '-';
-  put(uuid.data2, 4);
+  put(uuid.data2, 2);
   *m_position++ = '-';
-  put(uuid.data3, 4);
+  put(uuid.data3, 2);
   *m_position++ = '-';
   const auto tail = qFromBigEndian<quint64>(&uuid.data4[0]);
-  put(tail >> 48, 4);
+  put(tail >> 48, 2);
   *m_position++ = '-';
-  put(tail, 12);
+  put(tail, 6);
   *m_position++ = '"';
 }
 
@@ -159,7 +186,7 @@ void JsonWriter::writeInteger(qint64 value) {
 }
 
 void JsonWriter::writeBoolean(bool value) {
-  append(value ? QByteArrayView("true") : QByteArrayView("false"));
+  append(value ? "true" : "false");
 }
 
 QByteArray JsonWriter::takeText() {
@@ -172,16 +199,12 @@ void JsonWriter::append(char character) {
   *m_position++ = character;
 }
 
-void JsonWriter::append(QByteArrayView bytes) {
-  reserve(bytes.size());
-  std::memcpy(m_position, bytes.data(), static_cast<std::size_t>(bytes.size()));
-  m_position += bytes.size();
+void JsonWriter::append(std::string_view bytes) {
+  reserve(static_cast<qsizetype>(bytes.size()));
+  m_position = std::copy(bytes.begin(), bytes.end(), m_position);
 }
 
-void JsonWriter::reserve(qsizetype count) {
-  if (m_end - m_position >= count) {
-    return;
-  }
+void JsonWriter::grow(qsizetype count) {
   const qsizetype length = m_position - m_text.constData();
   m_text.resize(std::max(2 * m_text.size(), length + count));
   m_position = m_text.data() + length;

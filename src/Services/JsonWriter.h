@@ -3,6 +3,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QStringView>
 
+#include <string_view>
+
 class QUuid;
 
 namespace lanternix {
@@ -21,7 +23,7 @@ class JsonWriter {
   void endArray() { endContainer(']'); }
 
   /// Starts a member; its value follows. \p key is plain ASCII.
-  void writeKey(QByteArrayView key);
+  void writeKey(std::string_view key);
   /// Starts an element; its value follows.
   void beginElement() { beginEntry(); }
 
@@ -44,11 +46,18 @@ class JsonWriter {
   void beginEntry();
   void startLine();
   void append(char character);
-  void append(QByteArrayView bytes);
-  void appendEscaped(char16_t unit);
-  void appendUtf8(char32_t codePoint);
+  void append(std::string_view bytes);
+  /// All three want room for an escape, six bytes.
+  const char16_t *putCharacter(const char16_t *unit, const char16_t *end);
+  void putEscaped(char16_t unit);
+  void putUtf8(char32_t codePoint);
   /// Makes sure that \p count more bytes fit.
-  void reserve(qsizetype count);
+  void reserve(qsizetype count) {
+    if (m_end - m_position < count) {
+      grow(count);
+    }
+  }
+  void grow(qsizetype count);
 
   QByteArray m_text;
   char *m_position;

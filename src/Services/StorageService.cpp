@@ -64,7 +64,7 @@ QString StorageService::storageDirectory() {
   if (support.isEmpty()) {
     qFatal("Lanternix has no place for its data: the user has no home directory");
   }
-  const QString directory = support + u"/Lanternix"_s;
+  QString directory = support + u"/Lanternix"_s;
   if (!m_fileManager.createDirectory(directory)) {
     qCWarning(storage) << "the directory" << directory << "cannot be created";
   }

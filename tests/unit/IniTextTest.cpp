@@ -68,6 +68,10 @@ TEST(IniText, OpenQuote_DoesNotSwallowTheNewValue) {
   EXPECT_EQ(valueIn(text, u"key"), u"new"_s);
 }
 
+TEST(IniText, OpenQuoteBehindTheHeader_DoesNotSwallowTheNewValue) {
+  EXPECT_EQ(valueIn(withKey("[General] \"never closed\na=1\n"), u"key"), u"new"_s);
+}
+
 TEST(IniText, TextThatEndsInABackslash_IsReadToItsEndOnly) {
   EXPECT_EQ(withKey("[General]\na=\\"), "[General]\nkey=new\na=\\");
   EXPECT_EQ(withKey("[General]\nkey=\\"), "[General]\nkey=new");

@@ -1,11 +1,6 @@
 #include "Utilities/LocalizedText.h"
 
-#include <QtCore/QRandomGenerator>
-#include <QtCore/QStringList>
-#include <QtCore/QTextBoundaryFinder>
-
 #include <gtest/gtest.h>
-#include <ios>
 
 using namespace Qt::StringLiterals;
 using lanternix::LocalizedText::contains;

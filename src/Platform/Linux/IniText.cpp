@@ -75,10 +75,14 @@ bool isGeneralHeader(QByteArrayView line) {
   return name.trimmed().compare("general", Qt::CaseInsensitive) == 0;
 }
 
+bool endsWithBracket(QByteArrayView header) {
+  return header.indexOf(']') == header.size() - 1;
+}
+
 /// Where in a file the values of one key stand, and where a new one can go.
 struct Places {
   QList<Line> values;
-  /// Behind the header of the section; -1 without one.
+  /// Behind the header of the section; -1 without one that can be built upon.
   qsizetype sectionStart = -1;
 };
 
@@ -91,7 +95,8 @@ Places placesOf(QByteArrayView key, QByteArrayView text) {
     position = line.end;
     if (line.in(text).startsWith('[')) {
       isGeneral = isGeneralHeader(line.in(text));
-      if (isGeneral && places.sectionStart < 0) {
+      // Behind the bracket, an open quote may lurk.
+      if (isGeneral && places.sectionStart < 0 && endsWithBracket(line.in(text).trimmed())) {
         places.sectionStart = line.end;
       }
     } else if (isGeneral && line.keyIn(text) == key) {

@@ -1,10 +1,11 @@
 #include "Platform/Linux/LockFileSingleInstance.h"
 
+#include "Platform/Linux/BaseDirectories.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QSocketNotifier>
-#include <QtCore/QStandardPaths>
 
 #include <array>
 #include <cerrno>
@@ -26,12 +27,11 @@ constexpr mode_t ownerOnly = 0600;
 /// The runtime directory, which goes with the session; the program's data directory where the
 /// session has none.
 QString lockDirectory() {
-  const QString runtimeDirectory = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  QString runtimeDirectory = qEnvironmentVariable("XDG_RUNTIME_DIR");
   if (!runtimeDirectory.isEmpty() && QDir(runtimeDirectory).exists()) {
     return runtimeDirectory;
   }
-  const QString dataDirectory =
-      QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Lanternix"_L1;
+  QString dataDirectory = BaseDirectories::dataHome() + "/Lanternix"_L1;
   QDir().mkpath(dataDirectory);
   return dataDirectory;
 }

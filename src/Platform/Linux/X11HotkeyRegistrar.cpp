@@ -33,11 +33,14 @@ X11HotkeyRegistrar::X11HotkeyRegistrar(const X11Server &server, X11EventTime &ev
       m_eventTime(eventTime),
       m_xkbCookie(
           xcb_query_extension(server.connection(), xkbExtension.size(), xkbExtension.data())) {
+  // A change of the map comes as a burst of events, which are answered once.
+  m_following.setSingleShot(true);
+  connect(&m_following, &QTimer::timeout, this, &X11HotkeyRegistrar::followKeyboard);
   QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
 X11HotkeyRegistrar::~X11HotkeyRegistrar() {
-  unregisterHotkey();
+  release();
   if (!m_xkbEvent) {
     xcb_discard_reply(m_server.connection(), m_xkbCookie.sequence);
   }
@@ -95,6 +98,7 @@ bool X11HotkeyRegistrar::hold(std::vector<Grab> grabs) {
   // Without owner events, or the held shortcut would type into our own focused window.
   constexpr quint8 ownerEvents = 0;
   std::vector<xcb_void_cookie_t> cookies;
+  cookies.reserve(grabs.size());
   for (const Grab &grab : grabs) {
     cookies.push_back(xcb_grab_key_checked(m_server.connection(), ownerEvents, grab.root,
                                            grab.modifiers, grab.keyCode, XCB_GRAB_MODE_ASYNC,
@@ -122,17 +126,7 @@ void X11HotkeyRegistrar::release() {
   xcb_flush(m_server.connection());
 }
 
-/// A change of the map comes as a burst of events, which are answered once.
-void X11HotkeyRegistrar::followKeyboardSoon() {
-  if (m_followingSoon || !m_wanted) {
-    return;
-  }
-  m_followingSoon = true;
-  QMetaObject::invokeMethod(this, &X11HotkeyRegistrar::followKeyboard, Qt::QueuedConnection);
-}
-
 void X11HotkeyRegistrar::followKeyboard() {
-  m_followingSoon = false;
   if (!m_wanted) {
     return;
   }
@@ -194,7 +188,7 @@ bool X11HotkeyRegistrar::nativeEventFilter(const QByteArray & /*eventType*/, voi
     return true;
   }
   if (isKeyboardChange(event)) {
-    followKeyboardSoon();
+    m_following.start();
   }
   return false;
 }

@@ -4,6 +4,7 @@
 #include "Platform/Linux/X11Server.h"
 
 #include <QtCore/QAbstractNativeEventFilter>
+#include <QtCore/QTimer>
 
 #include <optional>
 #include <vector>
@@ -43,7 +44,6 @@ class X11HotkeyRegistrar : public HotkeyRegistrar, public QAbstractNativeEventFi
   std::vector<Grab> grabsFor(const Hotkey &hotkey, const X11Keyboard &keyboard) const;
   bool hold(std::vector<Grab> grabs);
   void release();
-  void followKeyboardSoon();
   void followKeyboard();
   bool isKeyboardChange(const xcb_generic_event_t &event) const;
   bool isOurs(const xcb_key_press_event_t &event) const;
@@ -55,7 +55,7 @@ class X11HotkeyRegistrar : public HotkeyRegistrar, public QAbstractNativeEventFi
   std::optional<quint8> m_xkbEvent;  // none until the answer has been read; 0 without XKB
   std::optional<Hotkey> m_wanted;
   std::vector<Grab> m_grabs;
-  bool m_followingSoon = false;
+  QTimer m_following;  // runs from a change of the keyboard to the next turn of the event loop
   xcb_keycode_t m_releasedKey = 0;
   xcb_timestamp_t m_releaseTime = 0;
   xcb_timestamp_t m_pressTime = 0;

@@ -18,8 +18,8 @@ constexpr std::size_t modifierCount = 8;
 
 X11Keyboard::X11Keyboard(const X11Server &server)
     : m_firstKeyCode(xcb_get_setup(server.connection())->min_keycode) {
-  const int lastKeyCode = xcb_get_setup(server.connection())->max_keycode;
-  m_keyCount = static_cast<std::size_t>(lastKeyCode - m_firstKeyCode + 1);
+  const std::size_t lastKeyCode = xcb_get_setup(server.connection())->max_keycode;
+  m_keyCount = lastKeyCode - m_firstKeyCode + 1;
   const auto mappingCookie = xcb_get_keyboard_mapping(server.connection(), m_firstKeyCode,
                                                       static_cast<quint8>(m_keyCount));
   const auto modifiersCookie = xcb_get_modifier_mapping(server.connection());

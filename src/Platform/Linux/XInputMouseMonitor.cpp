@@ -30,14 +30,21 @@ XInputMouseMonitor::XInputMouseMonitor(const X11Server &server, X11EventTime &ev
 }
 
 XInputMouseMonitor::~XInputMouseMonitor() {
-  setActive(false);
+  select(false);
 }
 
 void XInputMouseMonitor::setActive(bool active) {
   if (!m_opcode) {
     m_opcode = extensionOpcode(m_server);
   }
-  if (active == m_active || !m_opcode) {
+  if (m_opcode) {
+    select(active);
+  }
+}
+
+/// Asks the server for the events, or to send them no longer.
+void XInputMouseMonitor::select(bool active) {
+  if (active == m_active) {
     return;
   }
   m_active = active;

@@ -119,6 +119,7 @@ void PressToPicture::measurePresses(DesktopSession &session, xcb_window_t window
 
 void PressToPicture::measureRest(qint64 processId, WholeProgramFigures &figures) const {
   figures.proportionalSetSizeKilobytes = ProcessFigures::proportionalSetSize(processId);
+  figures.residentSetSizeKilobytes = ProcessFigures::residentSetSize(processId);
   const qint64 before = ProcessFigures::wakeUps(processId);
   QThread::sleep(static_cast<unsigned long>(m_effort.hiddenTime.count()));
   figures.wakeUpsWhileHidden = ProcessFigures::wakeUps(processId) - before;

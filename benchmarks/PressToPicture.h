@@ -24,6 +24,7 @@ struct WholeProgramFigures {
   Series letterToSettled;
   Series escapeToUnmapped;
   qint64 proportionalSetSizeKilobytes = 0;
+  qint64 residentSetSizeKilobytes = 0;
   qint64 wakeUpsWhileHidden = 0;
 };
 

@@ -51,7 +51,10 @@ class Table {
     durations(u"press to settled"_s, &WholeProgramFigures::pressToSettled, u"18 ms"_s);
     durations(u"one typed letter to settled"_s, &WholeProgramFigures::letterToSettled, u"8 ms"_s);
     durations(u"Escape to unmapped"_s, &WholeProgramFigures::escapeToUnmapped, u"–"_s);
-    row(u"proportional set size, hidden"_s, megabytes(m_few), megabytes(m_many), u"40 MB"_s);
+    row(u"proportional set size, hidden"_s, megabytes(m_few.proportionalSetSizeKilobytes),
+        megabytes(m_many.proportionalSetSizeKilobytes), u"40 MB"_s);
+    row(u"resident set size, hidden"_s, megabytes(m_few.residentSetSizeKilobytes),
+        megabytes(m_many.residentSetSizeKilobytes), u"–"_s);
     row(u"wake-ups while hidden"_s, QString::number(m_few.wakeUpsWhileHidden),
         QString::number(m_many.wakeUpsWhileHidden), u"0"_s);
     const QString floor = u"a bare window instead: press to first picture"_s;
@@ -64,10 +67,9 @@ class Table {
     row(figure, (m_few.*series).text(), (m_many.*series).text(), aim);
   }
 
-  static QString megabytes(const WholeProgramFigures &figures) {
+  static QString megabytes(qint64 kilobytes) {
     constexpr double kilobytesPerMegabyte = 1024;
-    const auto kilobytes = static_cast<double>(figures.proportionalSetSizeKilobytes);
-    return u"%1 MB"_s.arg(kilobytes / kilobytesPerMegabyte, 0, 'f', 1);
+    return u"%1 MB"_s.arg(static_cast<double>(kilobytes) / kilobytesPerMegabyte, 0, 'f', 1);
   }
 
   static void row(const QString &figure, const QString &few, const QString &many,

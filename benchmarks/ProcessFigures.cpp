@@ -32,6 +32,10 @@ qint64 ProcessFigures::proportionalSetSize(qint64 processId) {
   return valueOf("Pss", u"/proc/%1/smaps_rollup"_s.arg(processId));
 }
 
+qint64 ProcessFigures::residentSetSize(qint64 processId) {
+  return valueOf("Rss", u"/proc/%1/smaps_rollup"_s.arg(processId));
+}
+
 qint64 ProcessFigures::wakeUps(qint64 processId) {
   const QDir tasks(u"/proc/%1/task"_s.arg(processId));
   qint64 sum = 0;

@@ -103,7 +103,7 @@ void FloatingPanel::updateShape() {
 
 void FloatingPanel::mousePressEvent(QMouseEvent *event) {
   m_isDragged = event->button() == Qt::LeftButton;
-  m_dragOffset = event->globalPosition().toPoint() - pos();
+  m_dragOffset = event->position().toPoint();
 }
 
 void FloatingPanel::mouseMoveEvent(QMouseEvent *event) {

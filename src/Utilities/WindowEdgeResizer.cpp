@@ -72,7 +72,8 @@ bool WindowEdgeResizer::press(const QMouseEvent &event) {
   }
   m_resizing = true;
   m_pressPosition = event.globalPosition().toPoint();
-  m_pressGeometry = m_window.geometry();
+  // Where the window really is: what the window manager has done to it may not have been told yet.
+  m_pressGeometry = QRect(m_pressPosition - event.position().toPoint(), m_window.size());
   return true;
 }
 

@@ -93,7 +93,7 @@ TEST_F(CommandTest, NoDescriptorButTheThreeStandardOnes_IsInherited) {
 }
 
 TEST_F(CommandTest, SignalDispositions_AreTheDefaultOnes) {
-  const QByteArray seen = run(u"grep -E '^Sig(Blk|Ign)' /proc/$$/status > '%1'"_s.arg(result()));
+  const QByteArray seen = run(u"grep -E '^Sig(Blk|Ign)' /proc/self/status > '%1'"_s.arg(result()));
   // Of the signals above these, the C library keeps the first two for itself.
   constexpr quint64 namedSignals = (quint64{1} << 31) - 1;
   for (const QByteArray &line : seen.trimmed().split('\n')) {

@@ -44,6 +44,7 @@ void DesktopTest::startHidden(const SampleGroups &groups) {
   start(groups);
   input().tap(XK_Escape);
   require(u"the panel to hide"_s, [this] { return !isShown(); });
+  m_program->settle();
 }
 
 void DesktopTest::pressShortcut() {
@@ -114,8 +115,6 @@ void DesktopTest::dragPanel(QPoint from, QPoint to, const QRect &expected) {
   const QRect start = panelGeometry();
   input().moveTo(from);
   input().pressButton();
-  // No hand is so quick that it moves before the window manager has seen the press.
-  m_session.windowManager()->settle();
   input().moveTo(from + (to - from) / 4);
   waitUntil([&] { return panelGeometry() != start; });
   input().moveTo(to);

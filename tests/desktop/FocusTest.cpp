@@ -36,7 +36,8 @@ TEST_F(FocusTest, FullScreenWindow_LiesUnderThePanel) {
   startHidden(commands({u"Build"_s}));
   const auto other = session().openOtherWindow({0, 0, 100, 100}, OtherClient::Shape::fullScreen);
   showByShortcut();
-  EXPECT_TRUE(session().windows().isAbove(program().panel(), other->window()));
+  EXPECT_TRUE(
+      waitUntil([&] { return session().windows().isAbove(program().panel(), other->window()); }));
   input().type(u"Build"_s);
   input().tap(XK_Return);
   EXPECT_TRUE(becomesMarked(u"Build"_s));

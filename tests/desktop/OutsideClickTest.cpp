@@ -62,6 +62,16 @@ TEST_F(OutsideClickTest, PressInsideThePanel_DoesNotHideIt) {
   EXPECT_TRUE(becomesMarked(u"Deploy"_s));
 }
 
+TEST_F(OutsideClickTest, PressInsideWithALeapAwayAfterIt_DoesNotHide) {
+  start(commands({u"Build"_s, u"Deploy"_s}));
+  input().moveTo(onPanel({300, 62}));
+  input().pressButton();
+  input().moveTo(bareDesktop);
+  input().releaseButton();
+  program().settle();
+  EXPECT_TRUE(isShown());
+}
+
 TEST_F(OutsideClickTest, MiddlePressAndWheel_DoNotHide) {
   start(commands({u"Build"_s, u"Deploy"_s}));
   for (const quint8 button : {quint8{2}, quint8{4}, quint8{5}}) {

@@ -2,6 +2,7 @@
 
 #include "support/DesktopSession.h"
 #include "support/HarnessError.h"
+#include "support/ProgramPing.h"
 #include "support/WaitUntil.h"
 
 namespace lanternix {
@@ -22,6 +23,16 @@ void Program::waitForPanel() {
   if (!shown || !isRunning()) {
     throw HarnessError(u"the panel was not shown with the keyboard in it; the program said: "_s +
                        QString::fromUtf8(errors()));
+  }
+}
+
+void Program::settle() const {
+  // What the program asks for, the window manager does, and the program hears of that again.
+  ProgramPing ping(m_session.displayName(), panel());
+  ping.waitForAnswer();
+  if (m_session.windowManager() != nullptr) {
+    m_session.windowManager()->settle();
+    ping.waitForAnswer();
   }
 }
 

@@ -24,6 +24,10 @@ class Program {
   /// The panel's window; throws before there is one.
   xcb_window_t panel() const;
 
+  /// Returns once the program and the window manager have dealt with everything that happened on
+  /// the display until now.
+  void settle() const;
+
   bool isRunning() const { return m_process.isRunning(); }
   qint64 processId() const { return m_process.processId(); }
   /// None while it runs, -1 when it crashed.

@@ -5,6 +5,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
 
+#include <algorithm>
 #include <xcb/xinput.h>
 
 namespace lanternix {
@@ -61,13 +62,35 @@ void XInputMouseMonitor::select(bool active) {
 bool XInputMouseMonitor::nativeEventFilter(const QByteArray & /*eventType*/, void *message,
                                            qintptr * /*result*/) {
   const auto &event = *static_cast<const xcb_generic_event_t *>(message);
+  followPointer(event);
   if (isWatchedPress(event)) {
     m_eventTime.note(reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event).time);
-    if (!isPointerOverOwnWindow()) {
+    if (m_windowUnderPointer == XCB_WINDOW_NONE && !isPointerOverOwnWindow()) {
       Q_EMIT pressedOutside();
     }
   }
   return false;
+}
+
+/// Where the pointer was when a button went down is told only by the events before that press:
+/// asked now, the server answers where a quick hand has got to since.
+void XInputMouseMonitor::followPointer(const xcb_generic_event_t &event) {
+  const int type = event.response_type & 0x7f;
+  if (type == XCB_ENTER_NOTIFY || type == XCB_LEAVE_NOTIFY) {
+    const auto &crossing = reinterpret_cast<const xcb_enter_notify_event_t &>(event);
+    const bool isRoot =
+        std::ranges::find(m_server.roots(), crossing.event) != m_server.roots().end();
+    if (type == XCB_ENTER_NOTIFY && !isRoot) {
+      m_windowUnderPointer = crossing.event;
+    } else if (crossing.event == m_windowUnderPointer && crossing.mode != XCB_NOTIFY_MODE_GRAB &&
+               crossing.detail != XCB_NOTIFY_DETAIL_INFERIOR) {
+      m_windowUnderPointer = XCB_WINDOW_NONE;
+    }
+  } else if (type == XCB_UNMAP_NOTIFY &&
+             reinterpret_cast<const xcb_unmap_notify_event_t &>(event).window ==
+                 m_windowUnderPointer) {
+    m_windowUnderPointer = XCB_WINDOW_NONE;
+  }
 }
 
 bool XInputMouseMonitor::isWatchedPress(const xcb_generic_event_t &event) const {

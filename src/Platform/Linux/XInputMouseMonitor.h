@@ -26,6 +26,7 @@ class XInputMouseMonitor : public GlobalMouseMonitor, public QAbstractNativeEven
 
  private:
   void select(bool active);
+  void followPointer(const xcb_generic_event_t &event);
   bool isWatchedPress(const xcb_generic_event_t &event) const;
   bool isPointerOverOwnWindow() const;
   xcb_window_t topLevelOf(xcb_window_t window) const;
@@ -34,6 +35,7 @@ class XInputMouseMonitor : public GlobalMouseMonitor, public QAbstractNativeEven
   X11EventTime &m_eventTime;
   std::optional<quint8> m_opcode;  // of the extension; none before the first use
   bool m_active = false;
+  xcb_window_t m_windowUnderPointer = XCB_WINDOW_NONE;  // of ours, as of the event handled last
 };
 
 }  // namespace lanternix

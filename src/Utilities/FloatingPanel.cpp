@@ -58,6 +58,9 @@ void FloatingPanel::makeKeyAndOrderFront() {
 }
 
 void FloatingPanel::orderOut() {
+  if (isVisible()) {
+    m_windowSystem.prepareHiding(*windowHandle());
+  }
   hide();
 }
 

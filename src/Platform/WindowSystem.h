@@ -19,6 +19,10 @@ class WindowSystem {
   /// so call it before every show.
   virtual void preparePanel(QWindow &window) = 0;
 
+  /// Call it before hiding \p window: window systems lose track of a window that is taken away
+  /// while they are still bringing it up.
+  virtual void prepareHiding(QWindow &window) = 0;
+
   /// Brings the shown \p window to the front and gives it the keyboard, also where the window
   /// manager guards against focus stealing: call it only in answer to an action of the user.
   virtual void activate(QWindow &window) = 0;

@@ -59,6 +59,9 @@ void FloatingPanel::makeKeyAndOrderFront() {
 }
 
 void FloatingPanel::orderOut() {
+  if (isVisible()) {
+    m_windowSystem.prepareHiding(*windowHandle());
+  }
   hide();
 }
 

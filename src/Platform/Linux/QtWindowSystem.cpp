@@ -14,6 +14,8 @@ QScreen *QtWindowSystem::activeScreen() const {
 
 void QtWindowSystem::preparePanel(QWindow & /*window*/) {}
 
+void QtWindowSystem::prepareHiding(QWindow & /*window*/) {}
+
 void QtWindowSystem::activate(QWindow &window) {
   window.raise();
   window.requestActivate();

@@ -9,6 +9,7 @@ class QtWindowSystem : public WindowSystem {
  public:
   QScreen *activeScreen() const override;
   void preparePanel(QWindow &window) override;
+  void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
 };
 

@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/X11EventTime.h"
 
+#include <QtCore/QDeadlineTimer>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
@@ -21,6 +22,20 @@ xcb_window_t nativeWindow(const QWindow &window) {
 QRect nativeGeometry(const QScreen &screen) {
   const QSizeF size = QSizeF(screen.geometry().size()) * screen.devicePixelRatio();
   return {screen.geometry().topLeft(), size.toSize()};
+}
+
+/// Asks the server until \p condition holds. The window manager gets there within a few questions;
+/// one that hangs is not waited for any longer than a person would notice. False when it does not.
+template <typename Condition>
+bool comesTrue(Condition condition) {
+  using namespace std::chrono_literals;
+  const QDeadlineTimer deadline(50ms);
+  while (!condition()) {
+    if (deadline.hasExpired()) {
+      return false;
+    }
+  }
+  return true;
 }
 
 }  // namespace
@@ -45,8 +60,8 @@ QScreen *X11WindowSystem::activeScreen() const {
 
 void X11WindowSystem::preparePanel(QWindow &window) {
   const xcb_window_t panel = nativeWindow(window);
-  // A window manager that has not yet carried out the last hiding will wipe what is written now.
-  m_marksAtRisk = isManaged(panel);
+  // A window manager that has not yet carried out the last hiding would wipe what is written now.
+  m_marksAtRisk = !comesTrue([&] { return !isManaged(panel); });
 
   const std::array types{m_atoms[X11Atoms::netWmWindowTypeUtility]};
   const std::array states{m_atoms[X11Atoms::netWmStateAbove], m_atoms[X11Atoms::netWmStateSticky],
@@ -60,6 +75,14 @@ void X11WindowSystem::preparePanel(QWindow &window) {
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, panel, m_atoms[X11Atoms::netWmDesktop],
                       XCB_ATOM_CARDINAL, bitsPerItem, 1, &everyDesktop);
   setUserTime(panel);
+}
+
+/// A request to hide that the window manager meets before it has shown the window changes nothing
+/// for the server; a request to show right after it then changes nothing either, and the window
+/// manager takes the hiding for the last word.
+void X11WindowSystem::prepareHiding(QWindow &window) {
+  const xcb_window_t panel = nativeWindow(window);
+  comesTrue([&] { return isViewable(panel) && (isManaged(panel) || !hasWindowManager()); });
 }
 
 void X11WindowSystem::activate(QWindow &window) {
@@ -127,6 +150,12 @@ bool X11WindowSystem::isManaged(xcb_window_t window) const {
                                   m_atoms[X11Atoms::wmState], 0, 1));
   return reply && reply->format == bitsPerItem && reply->value_len == 1 &&
          *static_cast<const quint32 *>(xcb_get_property_value(reply.get())) != withdrawnState;
+}
+
+bool X11WindowSystem::isViewable(xcb_window_t window) const {
+  const auto reply = awaitReply(xcb_get_window_attributes_reply, m_server,
+                                xcb_get_window_attributes(m_server.connection(), window));
+  return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
 void X11WindowSystem::setUserTime(xcb_window_t window) {

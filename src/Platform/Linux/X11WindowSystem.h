@@ -19,6 +19,7 @@ class X11WindowSystem : public QtWindowSystem {
 
   QScreen *activeScreen() const override;
   void preparePanel(QWindow &window) override;
+  void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
 
  private:
@@ -26,6 +27,7 @@ class X11WindowSystem : public QtWindowSystem {
   std::optional<QPoint> activeWindowCentre() const;
   bool hasWindowManager() const;
   bool isManaged(xcb_window_t window) const;
+  bool isViewable(xcb_window_t window) const;
   void setUserTime(xcb_window_t window);
   void addMarks(xcb_window_t window);
   void sendToWindowManager(xcb_window_t window, X11Atoms::Name type,

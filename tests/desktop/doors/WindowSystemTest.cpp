@@ -43,6 +43,10 @@ class X11WindowSystemTest : public testing::Test {
     panel.show();
     windowSystem.activate(panel);
   }
+  void hidePanel() {
+    windowSystem.prepareHiding(panel);
+    panel.hide();
+  }
   xcb_window_t native() const { return static_cast<xcb_window_t>(panel.winId()); }
 
   X11Server server;
@@ -77,7 +81,7 @@ TEST_F(ManagedX11WindowSystemTest, ShownPanel_IsMarkedAsPanel) {
 TEST_F(ManagedX11WindowSystemTest, PanelShownAgain_IsStillMarkedAsPanel) {
   showPanel();
   ASSERT_TRUE(waitUntil([&] { return isMarkedAsPanel(); }));
-  panel.hide();
+  hidePanel();
   ASSERT_TRUE(waitUntil([&] { return windows.states(native()).isEmpty(); }));
   showPanel();
   EXPECT_TRUE(waitUntil([&] { return isMarkedAsPanel(); }))
@@ -89,7 +93,24 @@ TEST_F(ManagedX11WindowSystemTest, PanelHiddenAndShownAtOnce_IsStillMarkedAsPane
     showPanel();
     ASSERT_TRUE(waitUntil([&] { return isMarkedAsPanel(); }))
         << i << ": " << windows.states(native()).join(u' ').toStdString();
-    panel.hide();
+    hidePanel();
+  }
+}
+
+TEST_F(ManagedX11WindowSystemTest, PanelToggledWithoutPause_EndsAsLastAsked) {
+  OtherClient other(testDisplay().name());
+  other.show();
+  for (int i = 0; i < 50; ++i) {
+    other.takeFocus();
+    showPanel();
+    hidePanel();
+    showPanel();
+    ASSERT_TRUE(waitUntil([&] { return isMarkedAsPanel() && windows.hasFocus(native()); })) << i;
+    hidePanel();
+    showPanel();
+    hidePanel();
+    ASSERT_TRUE(waitUntil([&] { return other.hasFocus(); })) << i;
+    ASSERT_FALSE(windows.isViewable(native())) << i;
   }
 }
 
@@ -114,7 +135,7 @@ TEST_F(ManagedX11WindowSystemTest, PanelToggledManyTimes_TakesTheKeyboardEachTim
     other.takeFocus();
     showPanel();
     ASSERT_TRUE(waitUntil([&] { return windows.hasFocus(native()); })) << i;
-    panel.hide();
+    hidePanel();
   }
 }
 
@@ -167,7 +188,7 @@ TEST_F(X11WindowSystemTest, WithoutWindowManager_PanelShownAgainTakesTheKeyboard
     other.takeFocus();
     showPanel();
     ASSERT_TRUE(waitUntil([&] { return windows.hasFocus(native()); })) << i;
-    panel.hide();
+    hidePanel();
   }
 }
 

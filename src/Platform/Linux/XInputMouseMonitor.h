@@ -25,11 +25,8 @@ class XInputMouseMonitor : public GlobalMouseMonitor, public QAbstractNativeEven
   bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
  private:
-<<<<<<< HEAD
   void followPointer(const xcb_generic_event_t &event);
-=======
   void select(bool active);
->>>>>>> doors
   bool isWatchedPress(const xcb_generic_event_t &event) const;
   bool isPointerOverOwnWindow() const;
   xcb_window_t topLevelOf(xcb_window_t window) const;

@@ -25,6 +25,11 @@ Wording wordingOf(const QString &name) {
       {u"search/word"_s, {u"change the query: a word"_s, u"4 ms"_s}},
       {u"search/scoped"_s, {u"change the query: a scope and a word"_s, u"4 ms"_s}},
       {u"search/accented"_s, {u"change the query: a word with accents"_s, u"4 ms"_s}},
+      {u"searchByPosition"_s, {u"change the query: a letter, read as the panel does"_s, u"4 ms"_s}},
+      {u"buildIndex/mixed"_s, {u"fold all names and paths, some not ASCII"_s, u"–"_s}},
+      {u"buildIndex/ascii"_s, {u"fold all names and paths, all ASCII"_s, u"–"_s}},
+      {u"start"_s, {u"start the store"_s, u"–"_s}},
+      {u"openItem"_s, {u"open an item, with the save"_s, u"–"_s}},
   };
   return wordings.value(name, {name, u"–"_s});
 }

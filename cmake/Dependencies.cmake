@@ -1,12 +1,12 @@
 # Everything the program and its tests link against, found in one place.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg DBus)
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xinput xcb-keysyms)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-xinput)
 pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0 gio-unix-2.0)
 
 if(LANTERNIX_TESTS)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
   find_package(GTest REQUIRED)
   find_package(benchmark REQUIRED)
-  pkg_check_modules(XCB_TEST REQUIRED IMPORTED_TARGET xcb xcb-xtest xcb-damage xcb-keysyms xcb-randr)
+  pkg_check_modules(XCB_TEST REQUIRED IMPORTED_TARGET xcb xcb-xtest xcb-damage xcb-keysyms)
 endif()

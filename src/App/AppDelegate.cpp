@@ -47,9 +47,10 @@ AppDelegate::~AppDelegate() {
 }
 
 void AppDelegate::applicationDidFinishLaunching() {
+  // The clock runs while the panel is built, which is part of the wait.
+  QTimer::singleShot(firstShowDelay, Qt::PreciseTimer, this, &AppDelegate::showPanel);
   setupPanel();
   m_appState.hotkeyService().onToggle = [this] { togglePanel(); };
-  QTimer::singleShot(firstShowDelay, this, &AppDelegate::showPanel);
 }
 
 void AppDelegate::setupPanel() {

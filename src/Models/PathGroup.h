@@ -1,10 +1,10 @@
 #pragma once
 
+#include "Models/SystemColor.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QUuid>
-
-#include "Models/SystemColor.h"
 
 namespace lanternix {
 

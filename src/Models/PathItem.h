@@ -1,12 +1,13 @@
 #pragma once
 
+#include "Models/Date.h"
+#include "Models/ItemType.h"
+
 #include <QtCore/QList>
 #include <QtCore/QString>
 #include <QtCore/QUuid>
-#include <optional>
 
-#include "Models/Date.h"
-#include "Models/ItemType.h"
+#include <optional>
 
 namespace lanternix {
 

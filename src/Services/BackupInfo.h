@@ -1,9 +1,9 @@
 #pragma once
 
+#include "Models/Date.h"
+
 #include <QtCore/QString>
 #include <QtCore/QUuid>
-
-#include "Models/Date.h"
 
 namespace lanternix {
 

@@ -1,10 +1,11 @@
 #pragma once
 
-#include <QtCore/QList>
-#include <optional>
-
 #include "Services/BackupInfo.h"
 #include "Services/StorageService.h"
+
+#include <QtCore/QList>
+
+#include <optional>
 
 namespace lanternix {
 
@@ -12,9 +13,9 @@ class Clock;
 class FileManager;
 class UserDefaults;
 
-/// Keeps dated copies of the data document in "Lanternix/backups" beside the data file: one a day at
-/// start-up, more on request, pruned to the newest few. No operation reports an error: what fails
-/// is logged and has the effect stated.
+/// Keeps dated copies of the data document in "Lanternix/backups" beside the data file: one a day
+/// at start-up, more on request, pruned to the newest few. No operation reports an error: what
+/// fails is logged and has the effect stated.
 class BackupService {
  public:
   BackupService(FileManager &fileManager, UserDefaults &userDefaults, Clock &clock);

@@ -1,11 +1,12 @@
 #pragma once
 
-#include <QtCore/QByteArray>
-#include <QtCore/QList>
-#include <optional>
-
 #include "Models/PathGroup.h"
 #include "Models/PathItem.h"
+
+#include <QtCore/QByteArray>
+#include <QtCore/QList>
+
+#include <optional>
 
 namespace lanternix {
 
@@ -16,8 +17,8 @@ struct DataDocument {
   QList<PathGroup> groups;
   QList<PathItem> items;
 
-  /// The UTF-8 JSON text. The same document gives the same bytes. None when a date is not finite, which
-  /// JSON cannot express.
+  /// The UTF-8 JSON text. The same document gives the same bytes. None when a date is not finite,
+  /// which JSON cannot express.
   std::optional<QByteArray> encoded() const;
 
   /// The document in \p bytes, or none when a single byte of it is amiss: not JSON, not UTF-8, a

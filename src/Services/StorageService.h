@@ -1,9 +1,10 @@
 #pragma once
 
-#include <QtCore/QByteArray>
-#include <optional>
-
 #include "Services/DataDocument.h"
+
+#include <QtCore/QByteArray>
+
+#include <optional>
 
 namespace lanternix {
 

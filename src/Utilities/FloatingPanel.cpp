@@ -40,6 +40,7 @@ FloatingPanel::FloatingPanel(WindowSystem &windowSystem)
   m_edgeResizer = std::make_unique<WindowEdgeResizer>(*windowHandle());
   connect(m_edgeResizer.get(), &WindowEdgeResizer::finished, this,
           &FloatingPanel::didEndLiveResize);
+  windowHandle()->installEventFilter(this);
 }
 
 FloatingPanel::~FloatingPanel() = default;
@@ -69,6 +70,12 @@ bool FloatingPanel::event(QEvent *event) {
     Q_EMIT didBecomeKey();
   }
   return QWidget::event(event);
+}
+
+bool FloatingPanel::eventFilter(QObject * /*watched*/, QEvent *event) {
+  // Keys that were on their way when the window was hidden must not be typed into the next search.
+  const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+  return isKey && !isVisible();
 }
 
 void FloatingPanel::closeEvent(QCloseEvent *event) {

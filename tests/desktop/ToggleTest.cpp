@@ -29,15 +29,6 @@ TEST_F(ToggleTest, ShortcutTwiceInARow_EndsHidden) {
   EXPECT_FALSE(isShown());
 }
 
-TEST_F(ToggleTest, ShortcutThriceInARow_EndsShown) {
-  startHidden(commands({u"Build"_s}));
-  pressShortcut();
-  pressShortcut();
-  pressShortcut();
-  program().settle();
-  EXPECT_TRUE(isShown());
-}
-
 TEST_F(ToggleTest, ManyPresses_NeitherLoseNorAddOne) {
   startHidden(commands({u"Build"_s}));
   for (int round = 0; round < 10; ++round) {

@@ -192,6 +192,15 @@ TEST_F(AppDelegateTest, APlainComma_IsTyped) {
   EXPECT_EQ(delegate->appState().searchQuery(), QStringLiteral(","));
 }
 
+TEST_F(AppDelegateTest, AKeyOnItsWayToThePanelAsItIsHidden_IsNotTyped) {
+  start();
+  panel()->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(panel()));
+  delegate->appState().hidePanel();
+  press(38, 'a', {}, Qt::Key_A, QStringLiteral("a"));
+  EXPECT_EQ(delegate->appState().searchQuery(), QString());
+}
+
 TEST_F(AppDelegateTest, APressOutside_HidesThePanel) {
   start();
   EXPECT_TRUE(mouseMonitor.isActive);

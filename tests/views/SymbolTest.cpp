@@ -2,7 +2,6 @@
 
 #include <QtGui/QColor>
 #include <QtGui/QImage>
-#include <QtGui/QPixmap>
 
 #include <gtest/gtest.h>
 
@@ -11,7 +10,7 @@ namespace lanternix {
 namespace {
 
 QImage image(const QString &name, double ratio = 1) {
-  return Symbol::pixmap(name, 24, Qt::red, ratio).toImage();
+  return Symbol::image(name, 24, Qt::red, ratio);
 }
 
 bool isBlank(const QImage &image) {

@@ -29,8 +29,8 @@ class XInputMouseMonitor : public GlobalMouseMonitor, public QAbstractNativeEven
   void pressSeenOutside();
 
  private:
-  void select(bool active);
   void followPointer(const xcb_generic_event_t &event);
+  void select(bool active);
   bool isWatchedPress(const xcb_generic_event_t &event) const;
   bool isPointerOverOwnWindow() const;
   xcb_window_t topLevelOf(xcb_window_t window) const;

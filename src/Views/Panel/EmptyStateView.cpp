@@ -22,8 +22,9 @@ EmptyStateView::EmptyStateView(QWidget *parent) : QWidget(parent) {
                              QFont::Normal, FillStyle::tertiary, this);
   auto *button = new QPushButton(u"Open Settings"_s, this);
   button->setFont(textFont(TextStyle::subheadline, QFont::Medium));
-  button->setIcon(Symbol::pixmap(u"gearshape"_s, button->iconSize().width(),
-                                 palette().color(QPalette::ButtonText), devicePixelRatioF()));
+  button->setIcon(QPixmap::fromImage(Symbol::image(u"gearshape"_s, button->iconSize().width(),
+                                                   palette().color(QPalette::ButtonText),
+                                                   devicePixelRatioF())));
   button->setFocusPolicy(Qt::TabFocus);
   connect(button, &QAbstractButton::clicked, this, &EmptyStateView::settingsRequested);
 

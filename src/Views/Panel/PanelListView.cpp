@@ -4,6 +4,7 @@
 #include "Views/Panel/ItemContextMenu.h"
 #include "Views/Panel/PanelListModel.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/SlimScrollBar.h"
 
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QPainter>
@@ -34,6 +35,7 @@ PanelListView::PanelListView(AppState &appState, PanelListModel &model, QWidget 
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::NoFocus);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBar(new SlimScrollBar(Qt::Vertical, this));
   setAccessibleName(u"Items"_s);
   viewport()->setMouseTracking(true);
   viewport()->setAutoFillBackground(false);

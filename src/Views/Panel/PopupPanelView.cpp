@@ -10,6 +10,7 @@
 #include "Views/Panel/SearchBarView.h"
 #include "Views/Style/DividerLine.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/SlimScrollBar.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SymbolLabel.h"
 #include "Views/Style/TextStyle.h"
@@ -80,6 +81,7 @@ QWidget *PopupPanelView::makeMessages() {
   m_messages->setFrameShape(QFrame::NoFrame);
   m_messages->setFocusPolicy(Qt::NoFocus);
   m_messages->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  m_messages->setVerticalScrollBar(new SlimScrollBar(Qt::Vertical, m_messages));
   m_messages->viewport()->setAutoFillBackground(false);
   content->setAutoFillBackground(false);
   return m_messages;

@@ -1,11 +1,11 @@
 #include "Views/Style/Symbol.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QHash>
 #include <QtGui/QColor>
 #include <QtGui/QFontMetricsF>
+#include <QtGui/QImage>
 #include <QtGui/QPainter>
-#include <QtGui/QPixmap>
-#include <QtGui/QPixmapCache>
 #include <QtSvg/QSvgRenderer>
 
 using namespace Qt::StringLiterals;
@@ -27,29 +27,49 @@ QString resourcePath(const QString &name) {
   return name.contains(u'/') || !QFile::exists(path) ? u":/symbols/folder.svg"_s : path;
 }
 
-QPixmap rendered(const QString &name, int pixels, const QColor &color) {
-  QPixmap pixmap(pixels, pixels);
-  pixmap.fill(Qt::transparent);
-  QPainter painter(&pixmap);
+QImage rendered(const QString &name, int pixels, const QColor &color) {
+  QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
   QSvgRenderer(resourcePath(name)).render(&painter);
   painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-  painter.fillRect(pixmap.rect(), color);
-  return pixmap;
+  painter.fillRect(image.rect(), color);
+  return image;
+}
+
+struct Key {
+  QString name;
+  int pixels;
+  QRgb color;
+
+  friend bool operator==(const Key &, const Key &) = default;
+  friend size_t qHash(const Key &key, size_t seed = 0) noexcept {
+    return qHashMulti(seed, key.name, key.pixels, key.color);
+  }
+};
+
+// Not QPixmapCache: its clean-up runs on a timer, which would wake the program while the panel is
+// hidden.
+QImage cached(const QString &name, int pixels, const QColor &color) {
+  constexpr qsizetype limit = 500;
+  static QHash<Key, QImage> images;
+  const Key key{name, pixels, color.rgba()};
+  const auto found = images.constFind(key);
+  if (found != images.constEnd()) {
+    return *found;
+  }
+  if (images.size() >= limit) {
+    images.clear();
+  }
+  return *images.insert(key, rendered(name, pixels, color));
 }
 
 }  // namespace
 
-QPixmap pixmap(const QString &name, double side, const QColor &color, double devicePixelRatio) {
-  const int pixels = qMax(1, qRound(side * devicePixelRatio));
-  const QString key =
-      u"symbol %1 %2 %3"_s.arg(QString::number(pixels), QString::number(color.rgba(), 16), name);
-  QPixmap pixmap;
-  if (!QPixmapCache::find(key, &pixmap)) {
-    pixmap = rendered(name, pixels, color);
-    QPixmapCache::insert(key, pixmap);
-  }
-  pixmap.setDevicePixelRatio(devicePixelRatio);
-  return pixmap;
+QImage image(const QString &name, double side, const QColor &color, double devicePixelRatio) {
+  QImage image = cached(name, qMax(1, qRound(side * devicePixelRatio)), color);
+  image.setDevicePixelRatio(devicePixelRatio);
+  return image;
 }
 
 void draw(QPainter &painter, const QRectF &area, const QString &name, double side,
@@ -59,7 +79,7 @@ void draw(QPainter &painter, const QRectF &area, const QString &name, double sid
   const auto snapped = [ratio](double position) { return qRound(position * ratio) / ratio; };
   const QPointF corner(snapped(area.center().x() - side / 2),
                        snapped(area.center().y() - side / 2));
-  painter.drawPixmap(corner, pixmap(name, side, color, ratio));
+  painter.drawImage(corner, image(name, side, color, ratio));
 }
 
 double sideFor(const QFont &font) {

@@ -4,8 +4,8 @@
 
 class QColor;
 class QFont;
+class QImage;
 class QPainter;
-class QPixmap;
 class QRectF;
 
 namespace lanternix {
@@ -15,7 +15,7 @@ namespace lanternix {
 namespace Symbol {
 
 /// The symbol \p name in a square of \p side logical pixels, sharp at \p devicePixelRatio.
-QPixmap pixmap(const QString &name, double side, const QColor &color, double devicePixelRatio);
+QImage image(const QString &name, double side, const QColor &color, double devicePixelRatio);
 
 /// Draws the symbol centred in \p area, as large as a square of \p side logical pixels.
 void draw(QPainter &painter, const QRectF &area, const QString &name, double side,

@@ -26,6 +26,9 @@ std::optional<quint8> extensionOpcode(const X11Server &server) {
 
 XInputMouseMonitor::XInputMouseMonitor(const X11Server &server, X11EventTime &eventTime)
     : m_server(server), m_eventTime(eventTime) {
+  // Queued, because the keys typed before the press wait to be delivered while this filter runs.
+  connect(this, &XInputMouseMonitor::pressSeenOutside, this, &XInputMouseMonitor::pressedOutside,
+          Qt::QueuedConnection);
   QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
@@ -66,7 +69,7 @@ bool XInputMouseMonitor::nativeEventFilter(const QByteArray & /*eventType*/, voi
   if (isWatchedPress(event)) {
     m_eventTime.note(reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event).time);
     if (m_windowUnderPointer == XCB_WINDOW_NONE && !isPointerOverOwnWindow()) {
-      Q_EMIT pressedOutside();
+      Q_EMIT pressSeenOutside();
     }
   }
   return false;

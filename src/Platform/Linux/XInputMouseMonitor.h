@@ -24,6 +24,10 @@ class XInputMouseMonitor : public GlobalMouseMonitor, public QAbstractNativeEven
 
   bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
+ Q_SIGNALS:
+  /// Emitted from within the window system's event callback.
+  void pressSeenOutside();
+
  private:
   void followPointer(const xcb_generic_event_t &event);
   void select(bool active);

@@ -15,7 +15,7 @@ class AppStateSearch : public testing::Test, public StoreFixture {
   const PathGroup work = group(u"Work Projects"_s, 1);
   const PathGroup leisure = group(u"Home"_s, 0);
   const PathGroup empty = group(u"Empty"_s, 2);
-  const PathItem report = item(u"Report"_s, work, 0, u"/work/report.pdf"_s);
+  const PathItem report = item(u"Report"_s, work, 0, u"/papers/report.pdf"_s);
   const PathItem plan = item(u"Plan"_s, work, 1, u"https://plan.example"_s);
   const PathItem garden = item(u"Garden"_s, leisure, 0, u"/home/garden.PDF"_s);
   const PathItem reptiles = item(u"Reptiles"_s, leisure, 1, u"/home/zoo"_s);

@@ -4,6 +4,7 @@
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/WindowSystem.h"
+#include "Views/Style/LanternixStyle.h"
 
 #include <QtWidgets/QApplication>
 
@@ -30,7 +31,7 @@ int LanternixApp::run(int argc, char **argv) {
   }
   QCoreApplication::setApplicationName(u"Lanternix"_s);
   QGuiApplication::setDesktopFileName(u"org.lanternix.Lanternix"_s);
-  QApplication::setStyle(u"Fusion"_s);
+  QApplication::setStyle(new LanternixStyle);  // owned by the application
   // The program takes no options, so Qt's own are not offered either.
   int count = qMin(argc, 1);
   const QApplication application(count, argv);

@@ -34,8 +34,11 @@ QString drawingFor(int pixels) {
 class ApplicationIconEngine : public QIconEngine {
  public:
   void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override {
-    const double ratio = painter->device()->devicePixelRatioF();
-    painter->drawPixmap(rect, pixmap((QSizeF(rect.size()) * ratio).toSize(), mode, state));
+    const int side = qMin(rect.width(), rect.height());
+    QRect square(0, 0, side, side);
+    square.moveCenter(rect.center());
+    const int pixels = qRound(side * painter->device()->devicePixelRatioF());
+    painter->drawPixmap(square, pixmap({pixels, pixels}, mode, state));
   }
 
   QPixmap pixmap(const QSize &size, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {

@@ -2,7 +2,8 @@
 
 namespace lanternix {
 
-/// The named colours a group can have. Views/Style gives each its light and its dark value.
-enum class SystemColor { red, orange, yellow, green, blue, purple, pink, indigo, teal };
+/// The named colours: those a group can have, and cyan. Views/Style gives each its light and its
+/// dark value.
+enum class SystemColor { red, orange, yellow, green, blue, purple, pink, indigo, teal, cyan };
 
 }  // namespace lanternix

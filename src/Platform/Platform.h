@@ -8,6 +8,7 @@ namespace lanternix {
 
 class GlobalMouseMonitor;
 class SingleInstance;
+class SystemAppearance;
 class WindowSystem;
 
 /// Every door of the program, as the present session offers it. A null object stands where the
@@ -22,6 +23,7 @@ class Platform {
   virtual Doors doors() = 0;
   virtual WindowSystem &windowSystem() = 0;
   virtual GlobalMouseMonitor &mouseMonitor() = 0;
+  virtual SystemAppearance &systemAppearance() = 0;
 };
 
 /// The guard of the session's one program. Apart from the others, because it is asked before

@@ -2,8 +2,10 @@
 #include "Platform/Linux/BusSingleInstance.h"
 #include "Platform/Linux/GioWorkspace.h"
 #include "Platform/Linux/LockFileSingleInstance.h"
+#include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/PosixFileManager.h"
 #include "Platform/Linux/QtWindowSystem.h"
+#include "Platform/Linux/SessionBusAddress.h"
 #include "Platform/Linux/SpawnProcessLauncher.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
@@ -20,6 +22,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+std::unique_ptr<SystemAppearance> makeSystemAppearance() {
+  if (isSessionBusAnnounced() && QDBusConnection::sessionBus().isConnected()) {
+    return std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
+  }
+  return std::make_unique<NullSystemAppearance>();
+}
+
 /// The doors that are the same on every Linux desktop.
 class LinuxPlatform : public Platform {
  public:
@@ -27,6 +36,7 @@ class LinuxPlatform : public Platform {
     return {m_fileManager, UserDefaults::standard(), hotkeyRegistrar(),
             m_workspace,   m_processLauncher,        m_clock};
   }
+  SystemAppearance &systemAppearance() override { return *m_systemAppearance; }
 
  protected:
   virtual HotkeyRegistrar &hotkeyRegistrar() = 0;
@@ -36,6 +46,7 @@ class LinuxPlatform : public Platform {
   GioWorkspace m_workspace;
   SpawnProcessLauncher m_processLauncher;
   SystemClock m_clock;
+  const std::unique_ptr<SystemAppearance> m_systemAppearance = makeSystemAppearance();
 };
 
 class X11Platform : public LinuxPlatform {

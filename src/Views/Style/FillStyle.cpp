@@ -1,29 +1,49 @@
 #include "Views/Style/FillStyle.h"
 
+#include "Views/Style/Contrast.h"
+#include "Views/Style/SystemColors.h"
+
 #include <QtGui/QPalette>
+
+#include <algorithm>
 
 namespace lanternix {
 
 namespace {
+
+/// Of the accent colour behind a selected row.
+constexpr float selectionOpacity = 0.15F;
 
 struct Opacities {
   float light;
   float dark;
 };
 
-// Primary to tertiary carry text and keep a contrast of at least 4.5:1; quaternary is for shapes.
+// Quaternary is for shapes; the others carry text.
 Opacities opacities(FillStyle style) {
   switch (style) {
     case FillStyle::primary:
       return {0.87F, 0.92F};
     case FillStyle::secondary:
-      return {0.66F, 0.68F};
+      return {0.68F, 0.68F};
     case FillStyle::tertiary:
-      return {0.57F, 0.56F};
+      return {0.6F, 0.56F};
     case FillStyle::quaternary:
       return {0.12F, 0.14F};
   }
   return {1, 1};
+}
+
+/// \p color at \p opacity, or as much more as it takes to be read on \p ground.
+QColor readable(QColor color, float opacity, const QColor &ground) {
+  constexpr double wanted = Contrast::ofText + 0.05;  // drawing rounds
+  constexpr float step = 0.01F;
+  color.setAlphaF(opacity);
+  while (opacity < 1 && Contrast::ratio(color, ground) < wanted) {
+    opacity = std::min(opacity + step, 1.0F);
+    color.setAlphaF(opacity);
+  }
+  return color;
 }
 
 }  // namespace
@@ -34,10 +54,22 @@ bool isDark(const QPalette &palette) {
 }
 
 QColor fillColor(FillStyle style, const QPalette &palette) {
-  QColor color = palette.color(QPalette::Active, QPalette::WindowText);
-  const Opacities opacity = opacities(style);
-  color.setAlphaF(isDark(palette) ? opacity.dark : opacity.light);
-  return color;
+  const QColor window = palette.color(QPalette::Active, QPalette::Window);
+  const QColor plain = fillColor(style, palette, window);
+  if (style != FillStyle::primary && style != FillStyle::secondary) {
+    return plain;
+  }
+  // What the rows of lists are written in has to be read on the selected one, too.
+  const QColor selected = withOpacity(accentColor(palette), selectionOpacity);
+  return readable(plain, plain.alphaF(), Contrast::laidOn(window, selected));
+}
+
+QColor fillColor(FillStyle style, const QPalette &palette, const QColor &ground) {
+  const QColor color = palette.color(QPalette::Active, QPalette::WindowText);
+  const Opacities pair = opacities(style);
+  const float opacity = isDark(palette) ? pair.dark : pair.light;
+  return style == FillStyle::quaternary ? withOpacity(color, opacity)
+                                        : readable(color, opacity, ground);
 }
 
 }  // namespace lanternix

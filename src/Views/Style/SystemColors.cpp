@@ -33,6 +33,8 @@ Shades shades(SystemColor color) {
       return {0x5856D6, 0x5E5CE6};
     case SystemColor::teal:
       return {0x30B0C7, 0x40C8E0};
+    case SystemColor::cyan:
+      return {0x32ADE6, 0x64D2FF};
   }
   return {0x007AFF, 0x0A84FF};
 }

@@ -23,6 +23,12 @@ bool hasDisplay() {
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
+void followCompositing(const WindowSystem &windowSystem, LanternixStyle &style) {
+  const auto apply = [&windowSystem, &style] { style.setSoftEdges(windowSystem.isComposited()); };
+  QObject::connect(&windowSystem, &WindowSystem::compositingChanged, &style, apply);
+  apply();
+}
+
 }  // namespace
 
 int LanternixApp::run(int argc, char **argv) {
@@ -32,7 +38,8 @@ int LanternixApp::run(int argc, char **argv) {
   }
   QCoreApplication::setApplicationName(u"Lanternix"_s);
   QGuiApplication::setDesktopFileName(u"org.lanternix.Lanternix"_s);
-  QApplication::setStyle(new LanternixStyle);  // owned by the application
+  auto *style = new LanternixStyle;  // owned by the application
+  QApplication::setStyle(style);
   // The program takes no options, so Qt's own are not offered either.
   int count = qMin(argc, 1);
   const QApplication application(count, argv);
@@ -44,6 +51,7 @@ int LanternixApp::run(int argc, char **argv) {
     return 0;
   }
   const std::unique_ptr<Platform> platform = Platform::create();
+  followCompositing(platform->windowSystem(), *style);
   AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
   QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
                    &AppDelegate::showPanel);

@@ -1,14 +1,20 @@
 #pragma once
 
+#include <QtCore/QObject>
+
+class QRect;
 class QScreen;
 class QWindow;
 
 namespace lanternix {
 
 /// What the panel asks of the window system beyond an ordinary window.
-class WindowSystem {
+class WindowSystem : public QObject {
+  Q_OBJECT
+
  public:
-  virtual ~WindowSystem() = default;
+  WindowSystem();
+  ~WindowSystem() override;
 
   /// The screen that holds the active window, else the one under the pointer, else the primary
   /// one. Null only without any screen.
@@ -26,6 +32,17 @@ class WindowSystem {
   /// Brings the shown \p window to the front and gives it the keyboard, also where the window
   /// manager guards against focus stealing: call it only in answer to an action of the user.
   virtual void activate(QWindow &window) = 0;
+
+  /// Whether windows are blended with what is below them, so that they may have soft edges.
+  virtual bool isComposited() const = 0;
+
+  /// Says that only \p frame, in logical pixels of \p window, is the window proper, its corners
+  /// rounded by \p cornerRadius. What is around it is shadow: pressing there meets what is below.
+  /// What shows through the frame is blurred where that is offered.
+  virtual void setFrame(QWindow &window, const QRect &frame, int cornerRadius) = 0;
+
+ Q_SIGNALS:
+  void compositingChanged();
 };
 
 }  // namespace lanternix

@@ -5,6 +5,8 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
+using namespace Qt::StringLiterals;
+
 namespace lanternix {
 
 QScreen *QtWindowSystem::activeScreen() const {
@@ -15,6 +17,16 @@ QScreen *QtWindowSystem::activeScreen() const {
 void QtWindowSystem::preparePanel(QWindow & /*window*/) {}
 
 void QtWindowSystem::prepareHiding(QWindow & /*window*/) {}
+
+bool QtWindowSystem::isComposited() const {
+  return QGuiApplication::platformName().startsWith("wayland"_L1);
+}
+
+void QtWindowSystem::setFrame(QWindow &window, const QRect &frame, int /*cornerRadius*/) {
+  if (isComposited()) {
+    window.setMask(frame);  // which says there where presses are taken
+  }
+}
 
 void QtWindowSystem::activate(QWindow &window) {
   window.raise();

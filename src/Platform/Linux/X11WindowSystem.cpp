@@ -41,7 +41,9 @@ bool comesTrue(Condition condition) {
 }  // namespace
 
 X11WindowSystem::X11WindowSystem(const X11Server &server, const X11EventTime &eventTime)
-    : m_server(server), m_eventTime(eventTime), m_atoms(server) {}
+    : m_server(server), m_eventTime(eventTime), m_atoms(server), m_compositor(server) {
+  connect(&m_compositor, &X11Compositor::changed, this, &WindowSystem::compositingChanged);
+}
 
 QScreen *X11WindowSystem::activeScreen() const {
   const auto screens = QGuiApplication::screens();
@@ -106,6 +108,18 @@ void X11WindowSystem::activate(QWindow &window) {
   }
   sendToWindowManager(panel, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.recent()});
   xcb_flush(connection);
+}
+
+void X11WindowSystem::setFrame(QWindow &window, const QRect &frame, int cornerRadius) {
+  const double scale = window.devicePixelRatio();
+  const auto pixels = [scale](int length) { return static_cast<quint32>(qRound(length * scale)); };
+  const QMargins shadow(frame.left(), frame.top(), window.width() - frame.right() - 1,
+                        window.height() - frame.bottom() - 1);
+  const std::array extents{pixels(shadow.left()), pixels(shadow.right()), pixels(shadow.top()),
+                           pixels(shadow.bottom())};
+  m_compositor.setFrame(nativeWindow(window), extents,
+                        QSize(qRound(frame.width() * scale), qRound(frame.height() * scale)),
+                        qRound(cornerRadius * scale));
 }
 
 std::optional<xcb_window_t> X11WindowSystem::windowProperty(xcb_window_t window,

@@ -25,6 +25,7 @@ EmptyStateView::EmptyStateView(QWidget *parent) : QWidget(parent) {
   button->setIcon(QPixmap::fromImage(Symbol::image(u"gearshape"_s, button->iconSize().width(),
                                                    palette().color(QPalette::ButtonText),
                                                    devicePixelRatioF())));
+  button->setDefault(true);
   button->setFocusPolicy(Qt::TabFocus);
   connect(button, &QAbstractButton::clicked, this, &EmptyStateView::settingsRequested);
 

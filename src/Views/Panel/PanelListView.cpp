@@ -24,7 +24,7 @@ PanelListView::PanelListView(AppState &appState, PanelListModel &model, QWidget 
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::NoFocus);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setVerticalScrollBar(new SlimScrollBar(Qt::Vertical, this));
+  new SlimScrollBar(this);  // which owns it
   setAccessibleName(u"Items"_s);
   viewport()->setMouseTracking(true);
   viewport()->setAutoFillBackground(false);

@@ -10,6 +10,7 @@
 #include "Views/Panel/SearchBarView.h"
 #include "Views/Style/DividerLine.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/Material.h"
 #include "Views/Style/SlimScrollBar.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SymbolLabel.h"
@@ -24,6 +25,12 @@
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
+
+namespace {
+
+constexpr double cornerRadius = 12;
+
+}  // namespace
 
 PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
     : QWidget(parent),
@@ -81,7 +88,7 @@ QWidget *PopupPanelView::makeMessages() {
   m_messages->setFrameShape(QFrame::NoFrame);
   m_messages->setFocusPolicy(Qt::NoFocus);
   m_messages->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  m_messages->setVerticalScrollBar(new SlimScrollBar(Qt::Vertical, m_messages));
+  new SlimScrollBar(m_messages);  // which owns it
   m_messages->viewport()->setAutoFillBackground(false);
   content->setAutoFillBackground(false);
   return m_messages;
@@ -112,7 +119,17 @@ void PopupPanelView::focusSearch() {
 }
 
 void PopupPanelView::paintEvent(QPaintEvent * /*event*/) {
-  QPainter(this).fillRect(rect(), palette().color(QPalette::Window));
+  // The corners of a window that is blended with what is below it are round; those of any other
+  // are cut off by its shape.
+  QPainter painter(this);
+  if (!window()->testAttribute(Qt::WA_TranslucentBackground)) {
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    return;
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(materialColor(palette()));
+  painter.drawRoundedRect(rect(), cornerRadius, cornerRadius);
 }
 
 }  // namespace lanternix

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QtCore/QMargins>
 #include <QtCore/QObject>
+#include <QtCore/QSize>
 
-class QRect;
 class QScreen;
 class QWindow;
 
@@ -36,10 +37,17 @@ class WindowSystem : public QObject {
   /// Whether windows are blended with what is below them, so that they may have soft edges.
   virtual bool isComposited() const = 0;
 
-  /// Says that only \p frame, in logical pixels of \p window, is the window proper, its corners
-  /// rounded by \p cornerRadius. What is around it is shadow: pressing there meets what is below.
-  /// What shows through the frame is blurred where that is offered.
-  virtual void setFrame(QWindow &window, const QRect &frame, int cornerRadius) = 0;
+  /// What a window has around itself, all in logical pixels.
+  struct Frame {
+    /// Of the window proper.
+    QSize size;
+    int cornerRadius = 0;
+    QMargins shadow;
+  };
+
+  /// Says what of \p window is the window proper, and what only its shadow: pressing there meets
+  /// what is below. What shows through the frame is blurred where that is offered.
+  virtual void setFrame(QWindow &window, const Frame &frame) = 0;
 
  Q_SIGNALS:
   void compositingChanged();

@@ -104,8 +104,24 @@ void FloatingPanel::closeEvent(QCloseEvent *event) {
   Q_EMIT closeRequested();
 }
 
+void FloatingPanel::setFrame(const QRect &frame) {
+  m_wantedGeometry = frame.marginsAdded(contentsMargins());
+  setGeometry(m_wantedGeometry);
+}
+
+/// A window manager that puts the window into a frame of its own moves that to its place later, and
+/// need not say so. Asked once more for the same, it has to.
+void FloatingPanel::confirmPlace() {
+  if (windowHandle()->geometry() != m_wantedGeometry) {
+    windowHandle()->setGeometry(m_wantedGeometry);
+  }
+}
+
 void FloatingPanel::paintEvent(QPaintEvent *event) {
-  m_hasBeenSeen = true;
+  if (!m_hasBeenSeen) {
+    m_hasBeenSeen = true;
+    QMetaObject::invokeMethod(this, &FloatingPanel::confirmPlace, Qt::QueuedConnection);
+  }
   const QRect inner = contentsRect();
   if (testAttribute(Qt::WA_TranslucentBackground) && !inner.contains(event->rect())) {
     QPainter painter(this);
@@ -150,7 +166,9 @@ void FloatingPanel::updateShape() {
   } else {
     setMask(roundedRegion(rect(), cornerRadius));
   }
-  m_windowSystem.setFrame(*windowHandle(), contentsRect(), cornerRadius);
+  m_windowSystem.setFrame(
+      *windowHandle(),
+      {.size = frame().size(), .cornerRadius = cornerRadius, .shadow = contentsMargins()});
 }
 
 // A press that no view wants reaches the window: it is the background.

@@ -29,7 +29,7 @@ class FloatingPanel : public QWidget {
 
   /// The panel without its shadow, on the screen.
   QRect frame() const { return geometry().marginsRemoved(contentsMargins()); }
-  void setFrame(const QRect &frame) { setGeometry(frame.marginsAdded(contentsMargins())); }
+  void setFrame(const QRect &frame);
 
   /// Shows the window in front of all others and gives it the keyboard. Only in answer to an action
   /// of the user.
@@ -60,6 +60,7 @@ class FloatingPanel : public QWidget {
  private:
   void updateCompositing();
   void updateShape();
+  void confirmPlace();
 
   WindowSystem &m_windowSystem;
   std::unique_ptr<WindowEdgeResizer> m_edgeResizer;
@@ -67,6 +68,7 @@ class FloatingPanel : public QWidget {
   /// own that a program could see.
   QTimer m_resizePause;
   bool m_hasBeenSeen = false;
+  QRect m_wantedGeometry;
   bool m_isDragged = false;
   QPoint m_dragOffset;
 };

@@ -22,9 +22,10 @@ bool QtWindowSystem::isComposited() const {
   return QGuiApplication::platformName().startsWith("wayland"_L1);
 }
 
-void QtWindowSystem::setFrame(QWindow &window, const QRect &frame, int /*cornerRadius*/) {
+void QtWindowSystem::setFrame(QWindow &window, const Frame &frame) {
   if (isComposited()) {
-    window.setMask(frame);  // which says there where presses are taken
+    // Which says there where presses are taken.
+    window.setMask(QRect(QPoint(frame.shadow.left(), frame.shadow.top()), frame.size));
   }
 }
 

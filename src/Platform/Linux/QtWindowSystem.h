@@ -14,7 +14,7 @@ class QtWindowSystem : public WindowSystem {
   void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
   bool isComposited() const override;
-  void setFrame(QWindow &window, const QRect &frame, int cornerRadius) override;
+  void setFrame(QWindow &window, const Frame &frame) override;
 };
 
 }  // namespace lanternix

@@ -26,22 +26,26 @@ qsizetype screenNumber(const X11Server &server) {
   return root - server.roots().begin();
 }
 
-/// A rounded rectangle as rectangles: one for each line of its corners, one for what is between.
-std::vector<quint32> roundedRegion(int x, int y, QSize size, int radius) {
+/// A frame's outline as rectangles (left, top, width, height): one for each line of its corners,
+/// one for what is between.
+std::vector<quint32> roundedRegion(const WindowSystem::Frame &frame) {
   std::vector<quint32> region;
-  const auto add = [&](int left, int top, int width, int height) {
-    for (const int number : {left, top, width, height}) {
+  const int width = frame.size.width();
+  const int height = frame.size.height();
+  const int radius = frame.cornerRadius;
+  const auto add = [&](int inset, int line, int lines) {
+    for (const int number :
+         {frame.shadow.left() + inset, frame.shadow.top() + line, width - 2 * inset, lines}) {
       region.push_back(static_cast<quint32>(number));
     }
   };
   for (int line = 0; line < radius; ++line) {
     const double fromCentre = radius - line - 0.5;
-    const int inset =
-        radius - static_cast<int>(std::sqrt(radius * radius - fromCentre * fromCentre));
-    add(x + inset, y + line, size.width() - 2 * inset, 1);
-    add(x + inset, y + size.height() - 1 - line, size.width() - 2 * inset, 1);
+    const int inset = qRound(radius - std::sqrt(radius * radius - fromCentre * fromCentre));
+    add(inset, line, 1);
+    add(inset, height - 1 - line, 1);
   }
-  add(x, y + radius, size.width(), size.height() - 2 * radius);
+  add(0, radius, height - 2 * radius);
   return region;
 }
 
@@ -99,30 +103,33 @@ void X11Compositor::update(bool isRunning) {
   }
 }
 
-void X11Compositor::setFrame(xcb_window_t window, const Extents &shadow, QSize size,
-                             int cornerRadius) {
+void X11Compositor::setFrame(xcb_window_t window, const WindowSystem::Frame &frame) {
   xcb_connection_t *connection = m_server.connection();
-  const auto [left, right, top, bottom] = shadow;
-  if (std::ranges::all_of(shadow, [](quint32 width) { return width == 0; })) {
+  const QMargins &shadow = frame.shadow;
+  if (shadow.isNull()) {
     xcb_delete_property(connection, window, m_atoms[frameExtents]);
     xcb_delete_property(connection, window, m_atoms[blurBehind]);
   } else {
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, m_atoms[frameExtents],
-                        XCB_ATOM_CARDINAL, bitsPerItem, static_cast<quint32>(shadow.size()),
-                        shadow.data());
-    const auto region =
-        roundedRegion(static_cast<int>(left), static_cast<int>(top), size, cornerRadius);
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, m_atoms[blurBehind],
-                        XCB_ATOM_CARDINAL, bitsPerItem, static_cast<quint32>(region.size()),
-                        region.data());
+    const std::array extents{
+        static_cast<quint32>(shadow.left()), static_cast<quint32>(shadow.right()),
+        static_cast<quint32>(shadow.top()), static_cast<quint32>(shadow.bottom())};
+    setNumbers(window, m_atoms[frameExtents], extents);
+    setNumbers(window, m_atoms[blurBehind], roundedRegion(frame));
   }
   if (hasExtension(m_server, xcb_shape_id)) {
-    const xcb_rectangle_t taken{static_cast<qint16>(left), static_cast<qint16>(top),
-                                static_cast<quint16>(size.width()),
-                                static_cast<quint16>(size.height())};
+    const xcb_rectangle_t taken{
+        static_cast<qint16>(shadow.left()), static_cast<qint16>(shadow.top()),
+        static_cast<quint16>(frame.size.width()), static_cast<quint16>(frame.size.height())};
     xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
                          XCB_CLIP_ORDERING_UNSORTED, window, 0, 0, 1, &taken);
   }
+}
+
+void X11Compositor::setNumbers(xcb_window_t window, xcb_atom_t property,
+                               std::span<const quint32> numbers) {
+  xcb_change_property(m_server.connection(), XCB_PROP_MODE_REPLACE, window, property,
+                      XCB_ATOM_CARDINAL, bitsPerItem, static_cast<quint32>(numbers.size()),
+                      numbers.data());
 }
 
 }  // namespace lanternix

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "Platform/Linux/X11Server.h"
+#include "Platform/WindowSystem.h"
 
 #include <QtCore/QAbstractNativeEventFilter>
 #include <QtCore/QObject>
-#include <QtCore/QSize>
 
 #include <array>
+#include <span>
 
 namespace lanternix {
 
@@ -21,13 +22,9 @@ class X11Compositor : public QObject, public QAbstractNativeEventFilter {
 
   bool isRunning() const { return m_isRunning; }
 
-  /// The widths of a window's shadow: left, right, top, bottom.
-  using Extents = std::array<quint32, 4>;
-
-  /// Marks the rectangle of \p size within the \p shadow of \p window as the window proper: only it
-  /// takes presses, is placed and tiled, and has what is behind it blurred, its corners rounded by
-  /// \p cornerRadius.
-  void setFrame(xcb_window_t window, const Extents &shadow, QSize size, int cornerRadius);
+  /// Marks what of \p window is the window proper: only that takes presses, is placed and tiled,
+  /// and has what is behind it blurred. Lengths in \p frame are the server's pixels too.
+  void setFrame(xcb_window_t window, const WindowSystem::Frame &frame);
 
   bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
@@ -40,6 +37,7 @@ class X11Compositor : public QObject, public QAbstractNativeEventFilter {
 
   void watch();
   void update(bool isRunning);
+  void setNumbers(xcb_window_t window, xcb_atom_t property, std::span<const quint32> numbers);
 
   const X11Server &m_server;
   std::array<xcb_atom_t, nameCount> m_atoms{};

@@ -110,16 +110,14 @@ void X11WindowSystem::activate(QWindow &window) {
   xcb_flush(connection);
 }
 
-void X11WindowSystem::setFrame(QWindow &window, const QRect &frame, int cornerRadius) {
+void X11WindowSystem::setFrame(QWindow &window, const Frame &frame) {
   const double scale = window.devicePixelRatio();
-  const auto pixels = [scale](int length) { return static_cast<quint32>(qRound(length * scale)); };
-  const QMargins shadow(frame.left(), frame.top(), window.width() - frame.right() - 1,
-                        window.height() - frame.bottom() - 1);
-  const std::array extents{pixels(shadow.left()), pixels(shadow.right()), pixels(shadow.top()),
-                           pixels(shadow.bottom())};
-  m_compositor.setFrame(nativeWindow(window), extents,
-                        QSize(qRound(frame.width() * scale), qRound(frame.height() * scale)),
-                        qRound(cornerRadius * scale));
+  const auto pixels = [scale](int length) { return qRound(length * scale); };
+  m_compositor.setFrame(nativeWindow(window),
+                        {.size = {pixels(frame.size.width()), pixels(frame.size.height())},
+                         .cornerRadius = pixels(frame.cornerRadius),
+                         .shadow = {pixels(frame.shadow.left()), pixels(frame.shadow.top()),
+                                    pixels(frame.shadow.right()), pixels(frame.shadow.bottom())}});
 }
 
 std::optional<xcb_window_t> X11WindowSystem::windowProperty(xcb_window_t window,

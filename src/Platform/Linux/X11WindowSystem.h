@@ -25,7 +25,7 @@ class X11WindowSystem : public QtWindowSystem {
   void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
   bool isComposited() const override { return m_compositor.isRunning(); }
-  void setFrame(QWindow &window, const QRect &frame, int cornerRadius) override;
+  void setFrame(QWindow &window, const Frame &frame) override;
 
  private:
   std::optional<xcb_window_t> windowProperty(xcb_window_t window, X11Atoms::Name property) const;

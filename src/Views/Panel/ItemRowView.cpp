@@ -115,8 +115,11 @@ void ItemRowView::paintText(QPainter &painter, const QPalette &palette, const QR
   if (m_appState.showURLs()) {
     line.moveTop(line.bottom() + PanelMetrics::textSpacing);
     line.setHeight(QFontMetricsF(m_metrics.pathFont).height());
+    // A path runs from left to right, in whatever script its parts are.
+    painter.setLayoutDirection(Qt::LeftToRight);
     drawLine(painter, line, m_metrics.pathFont, fillColor(FillStyle::secondary, palette),
              displayPath(item), Qt::ElideMiddle);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
   }
 }
 

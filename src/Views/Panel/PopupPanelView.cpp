@@ -16,6 +16,8 @@
 #include "Views/Style/SymbolLabel.h"
 #include "Views/Style/TextStyle.h"
 
+#include <QtGui/QContextMenuEvent>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QScrollArea>
@@ -59,6 +61,7 @@ PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
   layout->addWidget(new DividerLine(this));
   layout->addWidget(new PanelFooterView(appState, this));
 
+  m_searchBar->focusProxy()->installEventFilter(this);
   connect(m_model, &QAbstractItemModel::modelReset, this, &PopupPanelView::updateMessages);
   updateMessages();
 }
@@ -116,6 +119,21 @@ void PopupPanelView::openSettings() {
 
 void PopupPanelView::focusSearch() {
   m_searchBar->focusField();
+}
+
+// The keyboard is always with the search field, and its wish for a menu is meant for the item that
+// the arrow keys have selected.
+bool PopupPanelView::eventFilter(QObject * /*watched*/, QEvent *event) {
+  if (event->type() == QEvent::ContextMenu) {
+    return static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard &&
+           m_list->openMenuOfSelection();
+  }
+  if (event->type() == QEvent::KeyPress) {
+    const auto *press = static_cast<QKeyEvent *>(event);
+    return press->key() == Qt::Key_F10 && press->modifiers() == Qt::ShiftModifier &&
+           m_list->openMenuOfSelection();
+  }
+  return false;
 }
 
 void PopupPanelView::paintEvent(QPaintEvent * /*event*/) {

@@ -1,5 +1,6 @@
 #include "Views/Style/ButtonDrawing.h"
 
+#include "Views/Style/AccentFill.h"
 #include "Views/Style/FillStyle.h"
 
 #include <QtGui/QPainter>
@@ -23,7 +24,7 @@ bool isProminent(const QStyleOptionButton &option) {
 QColor groundColor(const QStyleOptionButton &option) {
   constexpr int pressedDarkness = 115;  // percent
   constexpr int hoverDarkness = 105;
-  const QColor ground = isProminent(option) ? option.palette.color(QPalette::Highlight)
+  const QColor ground = isProminent(option) ? AccentFill::of(option.palette).ground
                                             : fillColor(FillStyle::quaternary, option.palette);
   if (option.state.testFlag(QStyle::State_Sunken)) {
     return ground.darker(pressedDarkness);
@@ -33,7 +34,7 @@ QColor groundColor(const QStyleOptionButton &option) {
 
 QColor textColor(const QStyleOptionButton &option) {
   if (isProminent(option)) {
-    return option.palette.color(QPalette::HighlightedText);
+    return AccentFill::of(option.palette).text;
   }
   return fillColor(
       option.state.testFlag(QStyle::State_Enabled) ? FillStyle::primary : FillStyle::tertiary,

@@ -1,5 +1,6 @@
 #include "Views/Style/MenuDrawing.h"
 
+#include "Views/Style/AccentFill.h"
 #include "Views/Style/Contrast.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/Symbol.h"
@@ -34,12 +35,7 @@ bool isDestructive(const QStyleOptionMenuItem &option, const QWidget *widget) {
   return action != nullptr && action->property("destructive").toBool();
 }
 
-struct Colors {
-  QColor highlight;
-  QColor text;
-};
-
-Colors colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
+AccentFill colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
   const QPalette &palette = option.palette;
   const bool isSelected = option.state.testFlag(QStyle::State_Selected);
   if (!option.state.testFlag(QStyle::State_Enabled)) {
@@ -47,13 +43,12 @@ Colors colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
   }
   if (isDestructive(option, widget)) {
     const QColor red = systemColor(SystemColor::red, palette);
-    return isSelected ? Colors{Contrast::readableOn(Qt::white, red), Qt::white}
-                      : Colors{Qt::transparent,
-                               Contrast::readableOn(palette.color(QPalette::Window), red)};
+    return isSelected ? AccentFill::of(red)
+                      : AccentFill{Qt::transparent,
+                                   Contrast::readableOn(palette.color(QPalette::Window), red)};
   }
-  return isSelected
-             ? Colors{palette.color(QPalette::Highlight), palette.color(QPalette::HighlightedText)}
-             : Colors{Qt::transparent, fillColor(FillStyle::primary, palette)};
+  return isSelected ? AccentFill::of(palette)
+                    : AccentFill{Qt::transparent, fillColor(FillStyle::primary, palette)};
 }
 
 void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, QRect &text,
@@ -68,9 +63,9 @@ void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, QRect &text
   }
   if (option.maxIconWidth > 0) {
     const QRect place(text.left(), text.center().y() - side / 2, side, side);
-    option.icon.paint(
-        &painter, place, Qt::AlignCenter,
-        option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled);
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    option.icon.paint(&painter, place, Qt::AlignCenter,
+                      isEnabled ? QIcon::Normal : QIcon::Disabled);
     text.setLeft(place.right() + 1 + iconSpacing);
   }
 }
@@ -96,9 +91,9 @@ void drawItem(QPainter &painter, const QStyleOptionMenuItem &option, const QWidg
     painter.restore();
     return;
   }
-  const Colors colors = colorsOf(option, menu);
+  const AccentFill colors = colorsOf(option, menu);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(colors.highlight);
+  painter.setBrush(colors.ground);
   painter.drawRoundedRect(option.rect, highlightRadius, highlightRadius);
 
   QRect text = option.rect.adjusted(sidePadding, 0, -sidePadding, 0);

@@ -18,9 +18,12 @@ constexpr int dividerPadding = 6;
 constexpr int dividerSidePadding = 16;
 
 void paintDivider(QPainter &painter, const QPalette &palette, const QRectF &area) {
+  // Smoothed, the line would be blurred where its edges fall between the screen's pixels.
+  painter.setRenderHint(QPainter::Antialiasing, false);
   painter.fillRect(
       area.adjusted(dividerSidePadding, dividerPadding, -dividerSidePadding, -dividerPadding),
       fillColor(FillStyle::quaternary, palette));
+  painter.setRenderHint(QPainter::Antialiasing);
 }
 
 }  // namespace

@@ -12,10 +12,8 @@
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/Material.h"
 #include "Views/Style/SlimScrollBar.h"
-#include "Views/Style/Symbol.h"
 #include "Views/Style/SymbolButton.h"
 #include "Views/Style/SymbolLabel.h"
-#include "Views/Style/TextStyle.h"
 
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QKeyEvent>
@@ -74,7 +72,7 @@ QWidget *PopupPanelView::makeSearchRow() {
   constexpr int fieldMargin = 2;  // which a line edit leaves beside its text
   layout->setSpacing(10 - fieldMargin);
   layout->addWidget(new SymbolLabel(
-      u"magnifyingglass"_s, Symbol::sideFor(textFont(TextStyle::title3)),
+      u"magnifyingglass"_s, TextStyle::title3,
       [](const QPalette &palette) { return fillColor(FillStyle::secondary, palette); }, row));
   layout->addWidget(m_searchBar, 1);
   return row;

@@ -61,7 +61,7 @@ void SearchBarView::updateFont() {
 }
 
 void SearchBarView::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::ApplicationFontChange) {
+  if (event->type() == QEvent::FontChange) {
     updateFont();
   }
   QWidget::changeEvent(event);

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "Views/Style/TextStyle.h"
+
 #include <QtWidgets/QWidget>
 
 #include <functional>
+#include <variant>
 
 namespace lanternix {
 
-/// A symbol by itself, of a fixed size.
+/// A symbol by itself.
 class SymbolLabel : public QWidget {
   Q_OBJECT
 
@@ -17,6 +20,8 @@ class SymbolLabel : public QWidget {
 
   /// \p side in logical pixels.
   SymbolLabel(QString symbol, double side, Tint tint, QWidget *parent = nullptr);
+  /// As large as stands well beside text in \p size; follows changes of the user's font.
+  SymbolLabel(QString symbol, TextStyle size, Tint tint, QWidget *parent = nullptr);
 
   QSize sizeHint() const override;
 
@@ -24,8 +29,10 @@ class SymbolLabel : public QWidget {
   void paintEvent(QPaintEvent *event) override;
 
  private:
+  double side() const;
+
   QString m_symbol;
-  double m_side;
+  std::variant<double, TextStyle> m_size;
   Tint m_tint;
 };
 

@@ -1,6 +1,6 @@
 #include "Views/Style/TextLabel.h"
 
-#include <QtCore/QEvent>
+#include <QtGui/QFontMetricsF>
 #include <QtGui/QPainter>
 
 namespace lanternix {
@@ -9,21 +9,29 @@ TextLabel::TextLabel(const QString &text, TextStyle style, QFont::Weight weight,
                      QWidget *parent)
     : QLabel(text, parent), m_style(style), m_weight(weight), m_fill(fill) {
   setTextFormat(Qt::PlainText);
-  setFont(textFont(style, weight));
 }
 
-void TextLabel::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::ApplicationFontChange) {
-    setFont(textFont(m_style, m_weight));
-  }
-  QLabel::changeEvent(event);
+// Not set as the widget's own font: a widget that has one hears nothing of changes of the user's.
+QFont TextLabel::lineFont() const {
+  return textFont(m_style, m_weight);
+}
+
+QSize TextLabel::sizeHint() const {
+  const QFontMetricsF metrics(lineFont());
+  return {qCeil(metrics.horizontalAdvance(text())), qCeil(metrics.height())};
+}
+
+QSize TextLabel::minimumSizeHint() const {
+  return sizeHint();
 }
 
 void TextLabel::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
+  painter.setFont(lineFont());
   painter.setPen(fillColor(m_fill, palette()));
-  painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
-                   fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()));
+  painter.drawText(
+      contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
+      QFontMetricsF(lineFont()).elidedText(text(), Qt::ElideRight, contentsRect().width()));
 }
 
 }  // namespace lanternix

@@ -16,11 +16,15 @@ class TextLabel : public QLabel {
   TextLabel(const QString &text, TextStyle style, QFont::Weight weight, FillStyle fill,
             QWidget *parent = nullptr);
 
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
  protected:
-  void changeEvent(QEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
  private:
+  QFont lineFont() const;
+
   TextStyle m_style;
   QFont::Weight m_weight;
   FillStyle m_fill;

@@ -89,4 +89,16 @@ TEST_P(ListMeasuresTest, ADividerOfOnePixel_EndsTheRecentSection) {
   EXPECT_EQ(row(divider).bottom(), line.bottom() + 6);
 }
 
+TEST_P(ListMeasuresTest, TheDivider_IsSharp) {
+  showRecent();
+  const QColor color = laid(fill(FillStyle::quaternary));
+  const Picture shown = picture();
+  const QRectF line = shown.boundsOf(color, row(divider));
+  EXPECT_TRUE(shown.isPlain(line, color));
+  const QRectF middle = row(divider).adjusted(100, 1, -100, -1);
+  EXPECT_TRUE(shown.isPlain({middle.topLeft(), QPointF(middle.right(), line.top())}, ground()));
+  EXPECT_TRUE(
+      shown.isPlain({QPointF(middle.left(), line.bottom()), middle.bottomRight()}, ground()));
+}
+
 }  // namespace lanternix

@@ -45,6 +45,8 @@ void MeasuresTest::show(const QList<PathGroup> &groups, const QList<PathItem> &i
 }
 
 QRectF MeasuresTest::place(const QWidget *part) const {
+  // Layouts wait for the event loop with what has changed.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
   return {part->mapTo(panel.get(), QPoint()), QSizeF(part->size())};
 }
 

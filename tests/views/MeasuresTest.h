@@ -54,6 +54,23 @@ class MeasuresTest : public ViewTest, public testing::WithParamInterface<Look> {
   /// Lets the pointer rest on a row.
   void pointAt(qsizetype index) const;
 
+  /// Whether the panel shows a text or a symbol. Widgets stand on whole pixels, so what is in the
+  /// middle of its place may be half a pixel off.
+  template <typename Thing>
+  testing::AssertionResult showsInMiddle(const Thing &thing) const {
+    const Picture picture = this->picture();
+    testing::AssertionResult result = testing::AssertionFailure();
+    for (const double offset : {-0.5, 0.5, 0.0}) {
+      Thing moved = thing;
+      moved.place.translate(0, offset);
+      result = picture.shows(moved, ground());
+      if (result) {
+        break;
+      }
+    }
+    return result;
+  }
+
   /// The user's own font at \p ratio of its size.
   static QFont font(double ratio, QFont::Weight weight = QFont::Normal);
   static double heightOf(const QFont &font);

@@ -31,15 +31,14 @@ class MessageMeasuresTest : public MeasuresTest {
       return testing::AssertionFailure()
              << text.toStdString() << " reaches from " << found.left() << " to " << found.right();
     }
-    return picture().shows(Picture::Text{text, font, fill(style), found}, ground());
+    return showsInMiddle(Picture::Text{text, font, fill(style), found});
   }
 
   testing::AssertionResult showsMark(const char *symbol, double side, double top) const {
-    return picture().shows(Picture::Mark{QLatin1String(symbol),
-                                         side,
-                                         fill(FillStyle::quaternary),
-                                         {350 - side / 2, top, side, side}},
-                           ground());
+    return showsInMiddle(Picture::Mark{QLatin1String(symbol),
+                                       side,
+                                       fill(FillStyle::quaternary),
+                                       {350 - side / 2, top, side, side}});
   }
 };
 

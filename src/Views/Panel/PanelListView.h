@@ -37,6 +37,7 @@ class PanelListView : public QAbstractScrollArea {
   void resizeEvent(QResizeEvent *event) override;
   void changeEvent(QEvent *event) override;
   bool viewportEvent(QEvent *event) override;
+  void scrollContentsBy(int dx, int dy) override;
   void mousePressEvent(QMouseEvent *event) override;
   void mouseDoubleClickEvent(QMouseEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;

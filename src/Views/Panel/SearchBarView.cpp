@@ -22,7 +22,7 @@ SearchBarView::SearchBarView(AppState &appState, QWidget *parent)
   m_field->setAccessibleName(u"Search"_s);
   m_field->setFrame(false);
   m_field->setTextMargins(0, 0, 0, 0);
-  QPalette clear = m_field->palette();
+  QPalette clear;
   clear.setColor(QPalette::Base, Qt::transparent);
   m_field->setPalette(clear);
   updateFont();
@@ -61,7 +61,7 @@ void SearchBarView::updateFont() {
 }
 
 void SearchBarView::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::ApplicationFontChange) {
+  if (event->type() == QEvent::FontChange) {
     updateFont();
   }
   QWidget::changeEvent(event);

@@ -1,6 +1,7 @@
 #include "App/LanternixApp.h"
 
 #include "App/AppDelegate.h"
+#include "App/AppearanceFollower.h"
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/WindowSystem.h"
@@ -31,7 +32,8 @@ int LanternixApp::run(int argc, char **argv) {
   }
   QCoreApplication::setApplicationName(u"Lanternix"_s);
   QGuiApplication::setDesktopFileName(u"org.lanternix.Lanternix"_s);
-  QApplication::setStyle(new LanternixStyle);  // owned by the application
+  auto *style = new LanternixStyle;  // the application's, which ends it
+  QApplication::setStyle(style);
   // The program takes no options, so Qt's own are not offered either.
   int count = qMin(argc, 1);
   const QApplication application(count, argv);
@@ -42,6 +44,7 @@ int LanternixApp::run(int argc, char **argv) {
     return 0;
   }
   const std::unique_ptr<Platform> platform = Platform::create();
+  const AppearanceFollower appearance(platform->systemAppearance(), *style);
   AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
   QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
                    &AppDelegate::showPanel);

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtGui/QFont>
+#include <QtGui/QPalette>
+
+namespace lanternix {
+
+class LanternixStyle;
+class SystemAppearance;
+
+/// Gives the running program the desktop's appearance, from the start and at every change: colours,
+/// accent colour, contrast, font, icon theme, and whether things move.
+///
+/// The desktop speaks in two voices: through SystemAppearance, and through the palette, font and
+/// icon theme that Qt takes from the desktop's own plug-in where there is one. What the first says
+/// goes; the second fills in.
+class AppearanceFollower : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Applies what is known already. To be made before the first window, and before anybody sets the
+  /// application's palette. \p style is the application's.
+  AppearanceFollower(const SystemAppearance &systemAppearance, LanternixStyle &style,
+                     QObject *parent = nullptr);
+
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
+ private:
+  void apply();
+  void applyPalette();
+  void applyIconTheme();
+  void followPalette();
+  void followFont();
+
+  const SystemAppearance &m_systemAppearance;
+  LanternixStyle &m_style;
+  QPalette m_desktopPalette;
+  QFont m_font;
+  /// Qt's own choice.
+  QString m_iconTheme;
+  bool m_isSettingPalette = false;
+};
+
+}  // namespace lanternix

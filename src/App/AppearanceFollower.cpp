@@ -7,11 +7,13 @@
 #include "Views/Style/Palettes.h"
 #include "Views/Style/SystemColors.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QFile>
 #include <QtCore/QLoggingCategory>
 #include <QtCore/QScopedValueRollback>
 #include <QtGui/QIcon>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QWidget>
 
 #include <algorithm>
 
@@ -54,13 +56,17 @@ QPalette kept(QPalette desktop) {
   if (Contrast::ratio(placeholder, window) < Contrast::ofText) {
     desktop.setColor(QPalette::PlaceholderText, fillColor(FillStyle::tertiary, desktop));
   }
+  const QColor selected = desktop.color(QPalette::Active, QPalette::HighlightedText);
+  const QColor accent = accentColor(desktop);
+  if (Contrast::ratio(selected, accent) < Contrast::ofText) {
+    Palettes::setAccent(desktop, accent);
+  }
   return desktop;
 }
 
-/// \p standard is what \p desktop is where no desktop has a say.
-QPalette choosePalette(const Appearance &appearance, const QPalette &desktop,
-                       const QPalette &standard) {
-  const bool isDesktops = desktop != standard;
+/// \p isDesktops tells whether \p desktop is more than what stands in for a palette of the
+/// desktop's.
+QPalette choosePalette(const Appearance &appearance, const QPalette &desktop, bool isDesktops) {
   const bool dark = wantsDark(appearance, desktop);
   const bool keeps = isDesktops && isDark(desktop) == dark && Palettes::isReadable(desktop) &&
                      !appearance.prefersHighContrast;
@@ -90,7 +96,7 @@ QString chooseIconTheme(const QString &wanted, const QString &qts) {
     return wanted;
   }
   // Every theme falls back on "hicolor", which has the icons of applications only.
-  if (!qts.isEmpty() && qts != "hicolor"_L1) {
+  if (qts != "hicolor"_L1 && isInstalled(qts)) {
     return qts;
   }
   for (const QString &common : {u"Adwaita"_s, u"breeze"_s, u"Papirus"_s}) {
@@ -117,18 +123,21 @@ AppearanceFollower::AppearanceFollower(const SystemAppearance &systemAppearance,
     : QObject(parent),
       m_systemAppearance(systemAppearance),
       m_style(style),
-      m_desktopPalette(QApplication::palette()),
       m_font(QApplication::font()),
       m_iconTheme(QIcon::themeName()) {
   connect(&systemAppearance, &SystemAppearance::changed, this, &AppearanceFollower::apply);
   QCoreApplication::instance()->installEventFilter(this);
+  readDesktopPalette();
   apply();
 }
 
 bool AppearanceFollower::eventFilter(QObject *watched, QEvent *event) {
+  if (m_isSettingPalette) {
+    return false;
+  }
   switch (event->type()) {
     case QEvent::ApplicationPaletteChange:
-      if (watched == QCoreApplication::instance() && !m_isSettingPalette) {
+      if (watched == QCoreApplication::instance()) {
         followPalette();
       }
       break;
@@ -158,7 +167,7 @@ void AppearanceFollower::apply() {
 void AppearanceFollower::applyPalette() {
   const QScopedValueRollback setting(m_isSettingPalette, true);
   QApplication::setPalette(
-      choosePalette(m_systemAppearance.appearance(), m_desktopPalette, m_style.standardPalette()));
+      choosePalette(m_systemAppearance.appearance(), m_desktopPalette, m_desktopHasPalette));
 }
 
 void AppearanceFollower::applyIconTheme() {
@@ -171,13 +180,16 @@ void AppearanceFollower::applyIconTheme() {
   tellOfNewIcons();
 }
 
+void AppearanceFollower::readDesktopPalette() {
+  const QScopedValueRollback setting(m_isSettingPalette, true);
+  // The only way to learn the desktop's colours from behind the program's own.
+  QApplication::setPalette(QPalette());
+  m_desktopPalette = QApplication::palette();
+  m_desktopHasPalette = m_desktopPalette != m_style.standardPalette();
+}
+
 void AppearanceFollower::followPalette() {
-  {
-    // The only way to learn the desktop's colours from behind the program's own.
-    const QScopedValueRollback setting(m_isSettingPalette, true);
-    QApplication::setPalette(QPalette());
-    m_desktopPalette = QApplication::palette();
-  }
+  readDesktopPalette();
   applyPalette();
 }
 

@@ -19,8 +19,8 @@ class AppearanceFollower : public QObject {
   Q_OBJECT
 
  public:
-  /// Applies what is known already. To be made before the first window, and before anybody sets the
-  /// application's palette. \p style is the application's.
+  /// Applies what is known already. To be made before the first window. \p style is the
+  /// application's, whose palette is nobody else's to set from then on.
   AppearanceFollower(const SystemAppearance &systemAppearance, LanternixStyle &style,
                      QObject *parent = nullptr);
 
@@ -30,12 +30,15 @@ class AppearanceFollower : public QObject {
   void apply();
   void applyPalette();
   void applyIconTheme();
+  void readDesktopPalette();
   void followPalette();
   void followFont();
 
   const SystemAppearance &m_systemAppearance;
   LanternixStyle &m_style;
   QPalette m_desktopPalette;
+  /// Whether that is the desktop's own, rather than what the style makes up where there is none.
+  bool m_desktopHasPalette = false;
   QFont m_font;
   /// Qt's own choice.
   QString m_iconTheme;

@@ -8,9 +8,6 @@
 #include "support/FakeSystemAppearance.h"
 #include "views/ViewTest.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
-#include <QtGui/QIcon>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
@@ -35,18 +32,6 @@ class DesktopStyle : public QProxyStyle {
   static inline QPalette desktopPalette;
 };
 
-/// Counts how often it is told of new icons.
-class IconWidget : public QWidget {
- public:
-  int changes = 0;
-
- protected:
-  bool event(QEvent *event) override {
-    changes += event->type() == QEvent::ThemeChange ? 1 : 0;
-    return QWidget::event(event);
-  }
-};
-
 class AppearanceFollowerTest : public ViewTest {
  protected:
   ~AppearanceFollowerTest() override {
@@ -55,8 +40,6 @@ class AppearanceFollowerTest : public ViewTest {
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(QPalette());
     QApplication::setFont(font);
-    QIcon::setThemeName(iconTheme);
-    QIcon::setThemeSearchPaths(iconPaths);
     QCoreApplication::processEvents();
   }
 
@@ -96,18 +79,7 @@ class AppearanceFollowerTest : public ViewTest {
     return palette;
   }
 
-  void installIconThemes(const QStringList &names) {
-    for (const QString &name : names) {
-      TemporaryHome::write(icons.filePath(name + QStringLiteral("/index.theme")),
-                           "[Icon Theme]\nName=x\nDirectories=\n");
-    }
-    QIcon::setThemeSearchPaths({icons.path()});
-  }
-
   const QFont font = QApplication::font();
-  const QString iconTheme = QIcon::themeName();
-  const QStringList iconPaths = QIcon::themeSearchPaths();
-  QTemporaryDir icons;
   LanternixStyle style;
   FakeSystemAppearance desktop;
   std::unique_ptr<AppState> state;
@@ -200,6 +172,34 @@ TEST_F(AppearanceFollowerTest, FaintPlaceholdersOfTheDesktopsPalette_AreMadeRead
   EXPECT_GE(Contrast::ratio(color(QPalette::PlaceholderText), color(QPalette::Window)), 4.5);
 }
 
+TEST_F(AppearanceFollowerTest, FaintSelectedTextOfTheDesktopsPalette_IsMadeReadable) {
+  QPalette palette = breeze();
+  palette.setColor(QPalette::HighlightedText, Qt::white);
+  startOver(palette);
+  EXPECT_EQ(accentColor(QApplication::palette()), QColor(0x3DAEE9));
+  EXPECT_GE(Contrast::ratio(color(QPalette::HighlightedText), color(QPalette::Highlight)), 4.5);
+}
+
+TEST_F(AppearanceFollowerTest, TextSelectedInTheSearchField_IsReadableInEveryAccent) {
+  start();
+  showPanel();
+  for (const Appearance::Rgb &accent :
+       {Appearance::Rgb{0, 0.48, 1}, Appearance::Rgb{1, 0.8, 0}, Appearance::Rgb{0.2, 0.8, 0.35},
+        Appearance::Rgb{0.1, 0, 0.3}}) {
+    desktop.become({.accentColor = accent});
+    QCoreApplication::processEvents();
+    const QPalette field = view->findChild<QLineEdit *>()->palette();
+    EXPECT_GE(
+        Contrast::ratio(field.color(QPalette::HighlightedText), field.color(QPalette::Highlight)),
+        4.5)
+        << field.color(QPalette::Highlight).name().toStdString();
+  }
+  desktop.become({});
+  QCoreApplication::processEvents();
+  EXPECT_EQ(view->findChild<QLineEdit *>()->palette().color(QPalette::HighlightedText),
+            QColor(Qt::white));
+}
+
 TEST_F(AppearanceFollowerTest, ChangeOfTheDesktopsOwnPalette_IsFollowedInAnOpenPanel) {
   startOver(breeze());
   showPanel();
@@ -231,42 +231,6 @@ TEST_F(AppearanceFollowerTest, FontThatTheDesktopChangesUnsaid_ReachesTheOpenPan
   QCoreApplication::instance()->installEventFilter(follower.get());
   tellOfThemeChange();
   EXPECT_TRUE(QTest::qWaitFor([&] { return view->findChild<QLineEdit *>()->height() > before; }));
-}
-
-TEST_F(AppearanceFollowerTest, TheDesktopsIconTheme_IsUsedAndItsChangesTold) {
-  installIconThemes({QStringLiteral("Fancy"), QStringLiteral("Plain")});
-  IconWidget widget;
-  start({.iconTheme = QStringLiteral("Fancy")});
-  EXPECT_EQ(QIcon::themeName(), QStringLiteral("Fancy"));
-  EXPECT_EQ(widget.changes, 1);
-  desktop.become({.iconTheme = QStringLiteral("Plain")});
-  EXPECT_EQ(QIcon::themeName(), QStringLiteral("Plain"));
-  EXPECT_EQ(widget.changes, 2);
-  desktop.become({.colorScheme = ColorScheme::dark, .iconTheme = QStringLiteral("Plain")});
-  EXPECT_EQ(widget.changes, 2);
-}
-
-TEST_F(AppearanceFollowerTest, WithoutAnIconThemeOfTheDesktop_ACommonOneIsUsed) {
-  installIconThemes({QStringLiteral("Papirus"), QStringLiteral("breeze")});
-  QIcon::setThemeName(QStringLiteral("hicolor"));
-  start();
-  EXPECT_EQ(QIcon::themeName(), QStringLiteral("breeze"));
-}
-
-TEST_F(AppearanceFollowerTest, IconThemeThatIsNotInstalled_LeavesTheOneThatQtFound) {
-  installIconThemes({QStringLiteral("Adwaita")});
-  QIcon::setThemeName(QStringLiteral("Found"));
-  start({.iconTheme = QStringLiteral("Missing")});
-  EXPECT_EQ(QIcon::themeName(), QStringLiteral("Found"));
-  desktop.become({.iconTheme = QStringLiteral("../icons/Adwaita")});
-  EXPECT_EQ(QIcon::themeName(), QStringLiteral("Found"));
-}
-
-TEST_F(AppearanceFollowerTest, WithoutAnyIconTheme_NoneIsUsed) {
-  installIconThemes({});
-  QIcon::setThemeName(QStringLiteral("hicolor"));
-  start();
-  EXPECT_EQ(QIcon::themeName(), QStringLiteral("hicolor"));
 }
 
 }  // namespace lanternix

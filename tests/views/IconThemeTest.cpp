@@ -69,7 +69,8 @@ TEST_F(IconThemeTest, TheDesktopsIconTheme_IsUsedAndItsChangesTold) {
   desktop.become({.iconTheme = QStringLiteral("Plain")});
   EXPECT_EQ(QIcon::themeName(), QStringLiteral("Plain"));
   EXPECT_EQ(widget.changes, 2);
-  desktop.become({.colorScheme = ColorScheme::dark, .iconTheme = QStringLiteral("Plain")});
+  desktop.become(
+      {.colorScheme = Appearance::ColorScheme::dark, .iconTheme = QStringLiteral("Plain")});
   EXPECT_EQ(widget.changes, 2);
 }
 

@@ -43,7 +43,12 @@ PictureWatch::PictureWatch(const QString &displayName, xcb_window_t window)
   xcb_damage_create(m_connection, m_damage, m_window, XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
   const quint32 includeInferiors = XCB_SUBWINDOW_MODE_INCLUDE_INFERIORS;
   xcb_create_gc(m_connection, m_context, m_window, XCB_GC_SUBWINDOW_MODE, &includeInferiors);
-  m_connection.sync();
+  const XReply<xcb_get_geometry_reply_t> geometry(
+      xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, m_window), nullptr));
+  if (!geometry) {
+    throw HarnessError(u"the window to watch has gone"_s);
+  }
+  m_depth = geometry->depth;
 }
 
 PictureWatch::~PictureWatch() {
@@ -133,8 +138,8 @@ PictureWatch::Drawing PictureWatch::copyOf(const xcb_damage_notify_event_t &dama
   const QRect area = QRect(damage.area.x, damage.area.y, damage.area.width, damage.area.height) &
                      QRect(QPoint(), m_size);
   const xcb_pixmap_t copy = xcb_generate_id(m_connection);
-  xcb_create_pixmap(m_connection, m_connection.screen().root_depth, copy, m_window,
-                    static_cast<quint16>(area.width()), static_cast<quint16>(area.height()));
+  xcb_create_pixmap(m_connection, m_depth, copy, m_window, static_cast<quint16>(area.width()),
+                    static_cast<quint16>(area.height()));
   xcb_copy_area(m_connection, m_window, copy, m_context, static_cast<qint16>(area.x()),
                 static_cast<qint16>(area.y()), 0, 0, static_cast<quint16>(area.width()),
                 static_cast<quint16>(area.height()));

@@ -58,6 +58,7 @@ class PictureWatch {
   XConnection m_connection;
   xcb_window_t m_window;
   quint8 m_damageEvent;
+  quint8 m_depth = 0;  // bits of a pixel
   xcb_damage_damage_t m_damage;
   xcb_gcontext_t m_context;
   QSize m_size;

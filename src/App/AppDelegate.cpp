@@ -85,7 +85,7 @@ void AppDelegate::showPanel() {
     return;
   }
   if (const QScreen *screen = m_windowSystem.activeScreen()) {
-    m_panel->setGeometry(panelFrame(screen->availableGeometry()));
+    m_panel->setFrame(panelFrame(screen->availableGeometry()));
   }
   m_panel->makeKeyAndOrderFront();
   m_appState.setPanelVisible(true);
@@ -108,8 +108,8 @@ void AppDelegate::hideOnPressOutside() {
 }
 
 void AppDelegate::storePanelSize() {
-  m_userDefaults.setReal(m_panel->width(), Preferences::panelWidth.key);
-  m_userDefaults.setReal(m_panel->height(), Preferences::panelHeight.key);
+  m_userDefaults.setReal(m_panel->frame().width(), Preferences::panelWidth.key);
+  m_userDefaults.setReal(m_panel->frame().height(), Preferences::panelHeight.key);
 }
 
 bool AppDelegate::handleKey(const QKeyEvent &press) {

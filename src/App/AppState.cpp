@@ -29,7 +29,8 @@ AppState::AppState(const Doors &doors, QObject *parent)
       m_storageService(doors.fileManager),
       m_hotkeyService(doors.userDefaults, doors.hotkeyRegistrar),
       m_backupService(doors.fileManager, doors.userDefaults, doors.clock),
-      m_launcherService(doors.workspace, doors.processLauncher, doors.userDefaults) {
+      m_launcherService(doors.workspace, doors.processLauncher, doors.userDefaults),
+      m_workspace(doors.workspace) {
   readPreferences();
   const StorageService::Data data = m_storageService.load();
   m_groups = data.groups;

@@ -38,6 +38,7 @@ class AppState : public QObject {
   HotkeyService &hotkeyService() { return m_hotkeyService; }
   BackupService &backupService() { return m_backupService; }
   LauncherService &launcherService() { return m_launcherService; }
+  const Workspace &workspace() const { return m_workspace; }
 
   // --- Data, in storage order -------------------------------------------------------------------
 
@@ -207,6 +208,7 @@ class AppState : public QObject {
   HotkeyService m_hotkeyService;
   BackupService m_backupService;
   LauncherService m_launcherService;
+  const Workspace &m_workspace;
 
   QList<PathGroup> m_groups;
   QList<PathItem> m_items;

@@ -5,6 +5,7 @@
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/WindowSystem.h"
+#include "Views/Style/ApplicationIcon.h"
 #include "Views/Style/LanternixStyle.h"
 
 #include <QtWidgets/QApplication>
@@ -23,6 +24,12 @@ bool hasDisplay() {
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
+void followCompositing(const WindowSystem &windowSystem, LanternixStyle &style) {
+  const auto apply = [&windowSystem, &style] { style.setSoftEdges(windowSystem.isComposited()); };
+  QObject::connect(&windowSystem, &WindowSystem::compositingChanged, &style, apply);
+  apply();
+}
+
 }  // namespace
 
 int LanternixApp::run(int argc, char **argv) {
@@ -32,18 +39,20 @@ int LanternixApp::run(int argc, char **argv) {
   }
   QCoreApplication::setApplicationName(u"Lanternix"_s);
   QGuiApplication::setDesktopFileName(u"org.lanternix.Lanternix"_s);
-  auto *style = new LanternixStyle;  // the application's, which ends it
+  auto *style = new LanternixStyle;  // owned by the application
   QApplication::setStyle(style);
   // The program takes no options, so Qt's own are not offered either.
   int count = qMin(argc, 1);
   const QApplication application(count, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  QApplication::setWindowIcon(applicationIcon());
 
   const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
   if (!instance->claim()) {
     return 0;
   }
   const std::unique_ptr<Platform> platform = Platform::create();
+  followCompositing(platform->windowSystem(), *style);
   const AppearanceFollower appearance(platform->systemAppearance(), *style);
   AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
   QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,

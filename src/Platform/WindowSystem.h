@@ -1,14 +1,21 @@
 #pragma once
 
+#include <QtCore/QMargins>
+#include <QtCore/QObject>
+#include <QtCore/QSize>
+
 class QScreen;
 class QWindow;
 
 namespace lanternix {
 
 /// What the panel asks of the window system beyond an ordinary window.
-class WindowSystem {
+class WindowSystem : public QObject {
+  Q_OBJECT
+
  public:
-  virtual ~WindowSystem() = default;
+  WindowSystem();
+  ~WindowSystem() override;
 
   /// The screen that holds the active window, else the one under the pointer, else the primary
   /// one. Null only without any screen.
@@ -26,6 +33,24 @@ class WindowSystem {
   /// Brings the shown \p window to the front and gives it the keyboard, also where the window
   /// manager guards against focus stealing: call it only in answer to an action of the user.
   virtual void activate(QWindow &window) = 0;
+
+  /// Whether windows are blended with what is below them, so that they may have soft edges.
+  virtual bool isComposited() const = 0;
+
+  /// What a window has around itself, all in logical pixels.
+  struct Frame {
+    /// Of the window proper.
+    QSize size;
+    int cornerRadius = 0;
+    QMargins shadow;
+  };
+
+  /// Says what of \p window is the window proper, and what only its shadow: pressing there meets
+  /// what is below. What shows through the frame is blurred where that is offered.
+  virtual void setFrame(QWindow &window, const Frame &frame) = 0;
+
+ Q_SIGNALS:
+  void compositingChanged();
 };
 
 }  // namespace lanternix

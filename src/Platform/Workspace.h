@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 namespace lanternix {
 
@@ -26,6 +27,14 @@ class Workspace {
   /// Shows the entry at \p path selected in its enclosing folder. Where no file manager can, the
   /// enclosing folder opens in the default one.
   virtual void revealInFileViewer(const QString &path) = 0;
+
+  /// The icon of what is at \p path: the names under which an icon theme may have it, the most
+  /// fitting first, or the path of an image. Empty when nothing is there. Asks the file system.
+  virtual QStringList iconNamesForFile(const QString &path) const = 0;
+
+  /// The same for folders and for files in general, whatever is on the disk.
+  virtual QStringList iconNamesForFolders() const = 0;
+  virtual QStringList iconNamesForAnyFile() const = 0;
 };
 
 }  // namespace lanternix

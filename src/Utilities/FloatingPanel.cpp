@@ -1,12 +1,15 @@
 #include "Utilities/FloatingPanel.h"
 
 #include "Platform/WindowSystem.h"
+#include "Utilities/PanelShadow.h"
 #include "Utilities/WindowEdgeResizer.h"
 
 #include <QtGui/QCloseEvent>
-#include <QtGui/QPainterPath>
+#include <QtGui/QPainter>
 #include <QtGui/QWindow>
 #include <QtWidgets/QVBoxLayout>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -17,7 +20,20 @@ namespace {
 
 constexpr QSize initialSize{700, 500};
 constexpr QSize smallestSize{400, 300};
-constexpr double cornerRadius = 12;
+constexpr int cornerRadius = 12;
+
+/// \p area without what lies outside its rounded corners.
+QRegion roundedRegion(const QRect &area, int radius) {
+  QRegion region(area.adjusted(0, radius, 0, -radius));
+  for (int line = 0; line < radius; ++line) {
+    const double fromCentre = radius - line - 0.5;
+    const int inset = qRound(radius - std::sqrt(radius * radius - fromCentre * fromCentre));
+    const QRect top(area.left() + inset, area.top() + line, area.width() - 2 * inset, 1);
+    region += top;
+    region += top.translated(0, area.height() - 1 - 2 * line);
+  }
+  return region;
+}
 
 }  // namespace
 
@@ -35,12 +51,17 @@ FloatingPanel::FloatingPanel(WindowSystem &windowSystem)
   m_resizePause.setInterval(300ms);
   connect(&m_resizePause, &QTimer::timeout, this, &FloatingPanel::didEndLiveResize);
 
-  // The native window is made now, so that the first show has only to map it.
+  // The native window is made now, so that the first show has only to map it. Whether it can be
+  // translucent is settled at its making.
+  setAttribute(Qt::WA_TranslucentBackground);
   create();
   m_edgeResizer = std::make_unique<WindowEdgeResizer>(*windowHandle());
   connect(m_edgeResizer.get(), &WindowEdgeResizer::finished, this,
           &FloatingPanel::didEndLiveResize);
   windowHandle()->installEventFilter(this);
+  connect(&windowSystem, &WindowSystem::compositingChanged, this,
+          &FloatingPanel::updateCompositing);
+  updateCompositing();
 }
 
 FloatingPanel::~FloatingPanel() = default;
@@ -83,12 +104,35 @@ void FloatingPanel::closeEvent(QCloseEvent *event) {
   Q_EMIT closeRequested();
 }
 
-void FloatingPanel::paintEvent(QPaintEvent * /*event*/) {
-  m_hasBeenSeen = true;
+void FloatingPanel::setFrame(const QRect &frame) {
+  m_wantedGeometry = frame.marginsAdded(contentsMargins());
+  setGeometry(m_wantedGeometry);
+}
+
+/// A window manager that puts the window into a frame of its own moves that to its place later, and
+/// need not say so. Asked once more for the same, it has to.
+void FloatingPanel::confirmPlace() {
+  if (windowHandle()->geometry() != m_wantedGeometry) {
+    windowHandle()->setGeometry(m_wantedGeometry);
+  }
+}
+
+void FloatingPanel::paintEvent(QPaintEvent *event) {
+  if (!m_hasBeenSeen) {
+    m_hasBeenSeen = true;
+    QMetaObject::invokeMethod(this, &FloatingPanel::confirmPlace, Qt::QueuedConnection);
+  }
+  const QRect inner = contentsRect();
+  if (testAttribute(Qt::WA_TranslucentBackground) && !inner.contains(event->rect())) {
+    QPainter painter(this);
+    PanelShadow::paint(painter, inner, cornerRadius);
+  }
 }
 
 void FloatingPanel::resizeEvent(QResizeEvent *event) {
-  updateShape();
+  if (m_edgeResizer) {  // which comes after the first size
+    updateShape();
+  }
   // Before the first picture it is the window manager that fits the window in, not the user.
   if (event->spontaneous() && m_hasBeenSeen && !m_edgeResizer->isResizing()) {
     m_resizePause.start();
@@ -103,10 +147,28 @@ void FloatingPanel::hideEvent(QHideEvent * /*event*/) {
   }
 }
 
+void FloatingPanel::updateCompositing() {
+  const QRect frameBefore = frame();
+  const bool isComposited = m_windowSystem.isComposited();
+  const QMargins shadow = isComposited ? PanelShadow::margins : QMargins();
+  setAttribute(Qt::WA_TranslucentBackground, isComposited);
+  setContentsMargins(shadow);
+  m_edgeResizer->setMargins(shadow);
+  setMinimumSize(smallestSize.grownBy(shadow));
+  setFrame(frameBefore);
+  updateShape();
+  update();
+}
+
 void FloatingPanel::updateShape() {
-  QPainterPath outline;
-  outline.addRoundedRect(rect(), cornerRadius, cornerRadius);
-  setMask(QRegion(outline.toFillPolygon().toPolygon()));
+  if (testAttribute(Qt::WA_TranslucentBackground)) {
+    clearMask();
+  } else {
+    setMask(roundedRegion(rect(), cornerRadius));
+  }
+  m_windowSystem.setFrame(
+      *windowHandle(),
+      {.size = frame().size(), .cornerRadius = cornerRadius, .shadow = contentsMargins()});
 }
 
 // A press that no view wants reaches the window: it is the background.

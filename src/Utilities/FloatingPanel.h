@@ -10,9 +10,13 @@ namespace lanternix {
 class WindowEdgeResizer;
 class WindowSystem;
 
-/// The panel's window: without a frame, above other windows, on every desktop, in no list of
+/// The panel's window: without a title bar, above other windows, on every desktop, in no list of
 /// windows. It is moved by its background and resized by its edges, never below 400 × 300. It is
 /// built once and only hidden, never closed.
+///
+/// Its corners are round. Where windows are blended it is translucent (WA_TranslucentBackground)
+/// and has a shadow, which is part of the native window but not of the frame; elsewhere its corners
+/// are cut off.
 class FloatingPanel : public QWidget {
   Q_OBJECT
 
@@ -22,6 +26,10 @@ class FloatingPanel : public QWidget {
 
   /// Fills the window with \p content and owns it.
   void setContentView(std::unique_ptr<QWidget> content);
+
+  /// The panel without its shadow, on the screen.
+  QRect frame() const { return geometry().marginsRemoved(contentsMargins()); }
+  void setFrame(const QRect &frame);
 
   /// Shows the window in front of all others and gives it the keyboard. Only in answer to an action
   /// of the user.
@@ -50,7 +58,9 @@ class FloatingPanel : public QWidget {
   void mouseReleaseEvent(QMouseEvent *event) override;
 
  private:
+  void updateCompositing();
   void updateShape();
+  void confirmPlace();
 
   WindowSystem &m_windowSystem;
   std::unique_ptr<WindowEdgeResizer> m_edgeResizer;
@@ -58,6 +68,7 @@ class FloatingPanel : public QWidget {
   /// own that a program could see.
   QTimer m_resizePause;
   bool m_hasBeenSeen = false;
+  QRect m_wantedGeometry;
   bool m_isDragged = false;
   QPoint m_dragOffset;
 };

@@ -32,13 +32,13 @@ WindowEdgeResizer::~WindowEdgeResizer() {
 }
 
 Qt::Edges WindowEdgeResizer::edgesAt(const QPoint &position) const {
-  const QSize size = m_window.size();
+  const QRect frame = QRect(QPoint(), m_window.size()).marginsRemoved(m_margins);
   const auto edgesWithin = [&](int distance) {
     Qt::Edges edges;
-    edges.setFlag(Qt::LeftEdge, position.x() < distance);
-    edges.setFlag(Qt::RightEdge, position.x() >= size.width() - distance);
-    edges.setFlag(Qt::TopEdge, position.y() < distance);
-    edges.setFlag(Qt::BottomEdge, position.y() >= size.height() - distance);
+    edges.setFlag(Qt::LeftEdge, position.x() < frame.left() + distance);
+    edges.setFlag(Qt::RightEdge, position.x() > frame.right() - distance);
+    edges.setFlag(Qt::TopEdge, position.y() < frame.top() + distance);
+    edges.setFlag(Qt::BottomEdge, position.y() > frame.bottom() - distance);
     return edges;
   };
   // Along an edge, its ends count as the corner: a square of the edge's width is hard to hit.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QMargins>
 #include <QtCore/QObject>
 #include <QtCore/QRect>
 
@@ -16,6 +17,9 @@ class WindowEdgeResizer : public QObject {
  public:
   explicit WindowEdgeResizer(QWindow &window);
   ~WindowEdgeResizer() override;
+
+  /// What of the window lies outside its edges, in logical pixels; nothing at first.
+  void setMargins(const QMargins &margins) { m_margins = margins; }
 
   bool isResizing() const { return m_resizing; }
 
@@ -37,6 +41,7 @@ class WindowEdgeResizer : public QObject {
   QRect resized(const QPoint &distance) const;
 
   QWindow &m_window;
+  QMargins m_margins;
   bool m_resizing = false;
   bool m_showsCursor = false;
   Qt::Edges m_edges;

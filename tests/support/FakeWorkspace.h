@@ -2,6 +2,7 @@
 
 #include "Platform/Workspace.h"
 
+#include <QtCore/QHash>
 #include <QtCore/QStringList>
 
 #include <functional>
@@ -22,10 +23,15 @@ class FakeWorkspace final : public Workspace {
   void revealInFileViewer(const QString &path) override {
     note(QStringLiteral("revealInFileViewer ") + path);
   }
+  QStringList iconNamesForFile(const QString &path) const override { return icons.value(path); }
+  QStringList iconNamesForFolders() const override { return {QStringLiteral("folder")}; }
+  QStringList iconNamesForAnyFile() const override { return {QStringLiteral("any-file")}; }
 
   QStringList requests;
   /// The identifiers of the applications that are installed.
   QStringList applications;
+  /// The names of the icons of the files that exist, by their paths.
+  QHash<QString, QStringList> icons;
   /// Called at every request, to look at the state of things at that moment.
   std::function<void()> onRequest;
 

@@ -57,4 +57,52 @@ TEST(PanelListLayout, FirstRowBelow_IsTheFirstToDraw) {
   EXPECT_EQ(layout.firstRowBelow(100), 2);
 }
 
+namespace {
+
+const QList<PanelRow> twoGroups{{Kind::groupHeader, 0},
+                                {Kind::item, 0, false},
+                                {Kind::item, 1, false},
+                                {Kind::groupHeader, 1},
+                                {Kind::item, 2, false}};
+
+PanelListLayout openTo(double openness) {
+  PanelListLayout layout;
+  layout.layOut(twoGroups, heights, {{0, openness}});
+  return layout;
+}
+
+}  // namespace
+
+TEST(PanelListLayout, AGroupHalfUnfolded_ShowsTheLowerHalfOfItsRows) {
+  const PanelListLayout layout = openTo(0.5);
+  EXPECT_EQ(layout.top(1), layout.bottom(1)) << "under the header";
+  EXPECT_EQ(layout.top(2), 50);
+  EXPECT_EQ(layout.bottom(2), 100);
+  EXPECT_EQ(layout.top(3), 104) << "what follows comes up";
+}
+
+TEST(PanelListLayout, ARowHalfUnderItsHeader_IsCutOffThere) {
+  const PanelListLayout layout = openTo(0.25);
+  EXPECT_EQ(layout.wholeTop(2), 25);
+  EXPECT_EQ(layout.top(2), 50);
+  EXPECT_EQ(layout.bottom(2), 75);
+  EXPECT_EQ(layout.rowAt(60), 2);
+  EXPECT_EQ(layout.rowAt(30), 0);
+}
+
+TEST(PanelListLayout, AGroupThatIsAboutToUnfold_LooksFolded) {
+  const PanelListLayout layout = openTo(0);
+  EXPECT_EQ(layout.top(3), 54);
+  EXPECT_EQ(layout.height(), 54 + 40 + 50 + 10);
+}
+
+TEST(PanelListLayout, AGroupFullyUnfolded_LooksLikeOneAtRest) {
+  const PanelListLayout layout = openTo(1);
+  const PanelListLayout atRest = laidOut(twoGroups);
+  for (qsizetype row = 0; row < twoGroups.size(); ++row) {
+    EXPECT_EQ(layout.top(row), atRest.top(row));
+    EXPECT_EQ(layout.bottom(row), atRest.bottom(row));
+  }
+}
+
 }  // namespace lanternix

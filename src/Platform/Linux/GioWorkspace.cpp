@@ -104,6 +104,34 @@ void launchUrl(const QString &url) {
   }
 }
 
+/// The names that \p icon goes by in icon themes, or its file's path.
+QStringList iconNames(GIcon *icon) {
+  if (icon == nullptr) {
+    return {};
+  }
+  if (G_IS_FILE_ICON(icon)) {
+    const std::unique_ptr<char, TextDeleter> path(
+        g_file_get_path(g_file_icon_get_file(G_FILE_ICON(icon))));
+    return path ? QStringList{QFile::decodeName(path.get())} : QStringList();
+  }
+  QStringList names;
+  if (G_IS_THEMED_ICON(icon)) {
+    for (const char *const *name = g_themed_icon_get_names(G_THEMED_ICON(icon)); *name != nullptr;
+         ++name) {
+      const QString text = QString::fromUtf8(*name);
+      if (!text.endsWith("-symbolic"_L1)) {  // which are drawn for toolbars
+        names.append(text);
+      }
+    }
+  }
+  return names;
+}
+
+QStringList iconNamesForType(const char *contentType) {
+  const ObjectPointer<GIcon> icon(g_content_type_get_icon(contentType));
+  return iconNames(icon.get());
+}
+
 QString uriOf(const QString &path) {
   const std::unique_ptr<char, TextDeleter> uri(g_file_get_uri(fileAt(path).get()));
   return QString::fromUtf8(uri.get());
@@ -161,6 +189,25 @@ void GioWorkspace::revealInFileViewer(const QString &path) {
     }
     reveal->deleteLater();
   });
+}
+
+QStringList GioWorkspace::iconNamesForFile(const QString &path) const {
+  GError *error = nullptr;
+  const ObjectPointer<GFileInfo> info(g_file_query_info(
+      fileAt(path).get(), G_FILE_ATTRIBUTE_STANDARD_ICON "," G_FILE_ATTRIBUTE_STANDARD_TYPE,
+      G_FILE_QUERY_INFO_NONE, nullptr, &error));
+  const ErrorPointer owned(error);
+  // A link whose target is gone answers for itself.
+  const bool isThere = info && g_file_info_get_file_type(info.get()) != G_FILE_TYPE_SYMBOLIC_LINK;
+  return isThere ? iconNames(g_file_info_get_icon(info.get())) : QStringList();
+}
+
+QStringList GioWorkspace::iconNamesForFolders() const {
+  return iconNamesForType("inode/directory");
+}
+
+QStringList GioWorkspace::iconNamesForAnyFile() const {
+  return iconNamesForType("application/octet-stream");
 }
 
 void GioWorkspace::openEnclosingFolder(const QString &path) {

@@ -25,6 +25,9 @@ class GioWorkspace : public Workspace {
   bool hasApplication(const QString &identifier) const override;
   void openDirectory(const QString &path, const QString &identifier) override;
   void revealInFileViewer(const QString &path) override;
+  QStringList iconNamesForFile(const QString &path) const override;
+  QStringList iconNamesForFolders() const override;
+  QStringList iconNamesForAnyFile() const override;
 
  private:
   void openEnclosingFolder(const QString &path);

@@ -5,6 +5,8 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
+using namespace Qt::StringLiterals;
+
 namespace lanternix {
 
 QScreen *QtWindowSystem::activeScreen() const {
@@ -15,6 +17,17 @@ QScreen *QtWindowSystem::activeScreen() const {
 void QtWindowSystem::preparePanel(QWindow & /*window*/) {}
 
 void QtWindowSystem::prepareHiding(QWindow & /*window*/) {}
+
+bool QtWindowSystem::isComposited() const {
+  return QGuiApplication::platformName().startsWith("wayland"_L1);
+}
+
+void QtWindowSystem::setFrame(QWindow &window, const Frame &frame) {
+  if (isComposited()) {
+    // Which says there where presses are taken.
+    window.setMask(QRect(QPoint(frame.shadow.left(), frame.shadow.top()), frame.size));
+  }
+}
 
 void QtWindowSystem::activate(QWindow &window) {
   window.raise();

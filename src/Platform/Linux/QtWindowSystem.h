@@ -6,11 +6,15 @@ namespace lanternix {
 
 /// What Qt itself can do on any window system: used where no better door is at hand.
 class QtWindowSystem : public WindowSystem {
+  Q_OBJECT
+
  public:
   QScreen *activeScreen() const override;
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
+  bool isComposited() const override;
+  void setFrame(QWindow &window, const Frame &frame) override;
 };
 
 }  // namespace lanternix

@@ -41,7 +41,9 @@ bool comesTrue(Condition condition) {
 }  // namespace
 
 X11WindowSystem::X11WindowSystem(const X11Server &server, const X11EventTime &eventTime)
-    : m_server(server), m_eventTime(eventTime), m_atoms(server) {}
+    : m_server(server), m_eventTime(eventTime), m_atoms(server), m_compositor(server) {
+  connect(&m_compositor, &X11Compositor::changed, this, &WindowSystem::compositingChanged);
+}
 
 QScreen *X11WindowSystem::activeScreen() const {
   const auto screens = QGuiApplication::screens();
@@ -106,6 +108,16 @@ void X11WindowSystem::activate(QWindow &window) {
   }
   sendToWindowManager(panel, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.recent()});
   xcb_flush(connection);
+}
+
+void X11WindowSystem::setFrame(QWindow &window, const Frame &frame) {
+  const double scale = window.devicePixelRatio();
+  const auto pixels = [scale](int length) { return qRound(length * scale); };
+  m_compositor.setFrame(nativeWindow(window),
+                        {.size = {pixels(frame.size.width()), pixels(frame.size.height())},
+                         .cornerRadius = pixels(frame.cornerRadius),
+                         .shadow = {pixels(frame.shadow.left()), pixels(frame.shadow.top()),
+                                    pixels(frame.shadow.right()), pixels(frame.shadow.bottom())}});
 }
 
 std::optional<xcb_window_t> X11WindowSystem::windowProperty(xcb_window_t window,

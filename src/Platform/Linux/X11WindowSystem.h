@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Platform/Linux/X11Atoms.h"
+#include "Platform/Linux/X11Compositor.h"
 
 #include <QtCore/QRect>
 
@@ -14,6 +15,8 @@ class X11EventTime;
 /// Speaks to the window manager by the Extended Window Manager Hints, and to the server itself
 /// where there is no window manager.
 class X11WindowSystem : public QtWindowSystem {
+  Q_OBJECT
+
  public:
   X11WindowSystem(const X11Server &server, const X11EventTime &eventTime);
 
@@ -21,6 +24,8 @@ class X11WindowSystem : public QtWindowSystem {
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
+  bool isComposited() const override { return m_compositor.isRunning(); }
+  void setFrame(QWindow &window, const Frame &frame) override;
 
  private:
   std::optional<xcb_window_t> windowProperty(xcb_window_t window, X11Atoms::Name property) const;
@@ -36,6 +41,7 @@ class X11WindowSystem : public QtWindowSystem {
   const X11Server &m_server;
   const X11EventTime &m_eventTime;
   mutable X11Atoms m_atoms;
+  X11Compositor m_compositor;
   /// Whether the window manager was about to wipe the panel's marks when they were written.
   bool m_marksAtRisk = false;
 };

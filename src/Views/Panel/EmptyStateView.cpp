@@ -22,6 +22,7 @@ EmptyStateView::EmptyStateView(QWidget *parent)
                               FillStyle::secondary, this);
   auto *hint = new TextLabel(u"Open Settings to add groups and items"_s, TextStyle::subheadline,
                              QFont::Normal, FillStyle::tertiary, this);
+  m_button->setDefault(true);
   m_button->setFocusPolicy(Qt::TabFocus);
   updateButton();
   connect(m_button, &QAbstractButton::clicked, this, &EmptyStateView::settingsRequested);

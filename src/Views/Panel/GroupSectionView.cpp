@@ -2,6 +2,7 @@
 
 #include "Models/PathGroup.h"
 #include "Views/Panel/PanelMetrics.h"
+#include "Views/Style/DisplayText.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
@@ -38,6 +39,24 @@ double countHeight() {
   return QFontMetricsF(countFont()).height() + 2 * countPadding;
 }
 
+/// Turns from right to down while the group unfolds.
+void paintChevron(QPainter &painter, const QPalette &palette, const QRectF &area, double openness) {
+  const double side = Symbol::sideFor(textFont(TextStyle::caption));
+  const QColor color = fillColor(FillStyle::tertiary, palette);
+  if (openness <= 0 || openness >= 1) {
+    Symbol::draw(painter, area, openness >= 1 ? u"chevron.down"_s : u"chevron.right"_s, side,
+                 color);
+    return;
+  }
+  constexpr double quarterTurn = 90;
+  painter.save();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.translate(area.center());
+  painter.rotate(quarterTurn * openness);
+  Symbol::draw(painter, QRectF(-side / 2, -side / 2, side, side), u"chevron.right"_s, side, color);
+  painter.restore();
+}
+
 }  // namespace
 
 GroupSectionView::GroupSectionView(const PanelMetrics &metrics) : m_metrics(metrics) {}
@@ -52,7 +71,7 @@ double GroupSectionView::emptyHeight() const {
 }
 
 void GroupSectionView::paintHeader(QPainter &painter, const QPalette &palette, const QRectF &row,
-                                   const PathGroup &group, qsizetype count) const {
+                                   const PathGroup &group, State state) const {
   double left = row.left() + PanelMetrics::sidePadding;
   const auto column = [&](double width) {
     const QRectF area(left, row.top(), width, row.height());
@@ -60,9 +79,7 @@ void GroupSectionView::paintHeader(QPainter &painter, const QPalette &palette, c
     return area;
   };
 
-  Symbol::draw(
-      painter, column(chevronWidth), group.isExpanded ? u"chevron.down"_s : u"chevron.right"_s,
-      Symbol::sideFor(textFont(TextStyle::caption)), fillColor(FillStyle::tertiary, palette));
+  paintChevron(painter, palette, column(chevronWidth), state.openness);
 
   const double symbolSide = Symbol::sideFor(textFont(TextStyle::body));
   Symbol::draw(painter, column(symbolSide), group.iconName, symbolSide,
@@ -70,16 +87,17 @@ void GroupSectionView::paintHeader(QPainter &painter, const QPalette &palette, c
 
   const QFontMetricsF nameMetrics(nameFont());
   const double countWidth =
-      QFontMetricsF(countFont()).horizontalAdvance(QString::number(count)) + 2 * countSidePadding;
+      QFontMetricsF(countFont()).horizontalAdvance(QString::number(state.count)) +
+      2 * countSidePadding;
   const double room =
       row.right() - PanelMetrics::sidePadding - left - countWidth - PanelMetrics::headerSpacing;
-  const QString name = nameMetrics.elidedText(group.name, Qt::ElideRight, room);
+  const QString name = DisplayText::elided(group.name, nameFont(), Qt::ElideRight, room);
   painter.setFont(nameFont());
   painter.setPen(fillColor(FillStyle::primary, palette));
   painter.drawText(column(std::ceil(nameMetrics.horizontalAdvance(name))),
                    Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, name);
 
-  paintCount(painter, palette, row, left, count);
+  paintCount(painter, palette, row, left, state.count);
 }
 
 void GroupSectionView::paintCount(QPainter &painter, const QPalette &palette, const QRectF &row,

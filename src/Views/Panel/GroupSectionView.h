@@ -21,9 +21,16 @@ class GroupSectionView {
   double headerHeight() const;
   double emptyHeight() const;
 
-  /// Draws the header of \p group; \p count is the number of items that the panel shows in it.
+  struct State {
+    /// The number of items that the panel shows in the group.
+    qsizetype count = 0;
+    /// How far the group is unfolded, 0 to 1.
+    double openness = 1;
+  };
+
+  /// Draws the header of \p group.
   void paintHeader(QPainter &painter, const QPalette &palette, const QRectF &row,
-                   const PathGroup &group, qsizetype count) const;
+                   const PathGroup &group, State state) const;
 
   /// Draws "No items in this group".
   void paintEmpty(QPainter &painter, const QPalette &palette, const QRectF &row) const;

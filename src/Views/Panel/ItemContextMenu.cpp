@@ -21,7 +21,9 @@ void popUp(AppState &appState, const PathItem &item, const QPoint &position, QWi
   menu->addAction(item.type == ItemType::command ? u"Copy Command"_s : u"Copy Path"_s, menu,
                   [item] { QGuiApplication::clipboard()->setText(item.path); });
   menu->addSeparator();
-  menu->addAction(u"Delete"_s, menu, [&appState, item] { appState.deleteItem(item.id); });
+  QAction *remove =
+      menu->addAction(u"Delete"_s, menu, [&appState, item] { appState.deleteItem(item.id); });
+  remove->setProperty("destructive", true);
   menu->popup(position);
 }
 

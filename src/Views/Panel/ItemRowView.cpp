@@ -2,10 +2,12 @@
 
 #include "App/AppState.h"
 #include "Views/Panel/PanelMetrics.h"
+#include "Views/Style/DisplayText.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
 #include "Views/Style/TextStyle.h"
+#include "Views/Style/ThemeIcon.h"
 
 #include <QtCore/QDir>
 #include <QtGui/QFontMetricsF>
@@ -31,13 +33,13 @@ void drawLine(QPainter &painter, const QRectF &area, const QFont &font, const QC
   painter.setFont(font);
   painter.setPen(color);
   painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                   QFontMetricsF(font).elidedText(text, elide, area.width()));
+                   DisplayText::elided(text, font, elide, area.width()));
 }
 
 }  // namespace
 
 ItemRowView::ItemRowView(const AppState &appState, const PanelMetrics &metrics)
-    : m_appState(appState), m_metrics(metrics) {}
+    : m_appState(appState), m_metrics(metrics), m_iconHelper(appState.workspace()) {}
 
 double ItemRowView::textHeight() const {
   const double name = QFontMetricsF(m_metrics.nameFont).height();
@@ -95,8 +97,11 @@ void ItemRowView::paintTile(QPainter &painter, const QPalette &palette, const QR
   painter.setBrush(withOpacity(color, 0.12F));
   painter.drawRoundedRect(tile, m_metrics.tileRadius, m_metrics.tileRadius);
   const bool isImage = item.type == ItemType::directory || item.type == ItemType::file;
-  Symbol::draw(painter, tile, systemImage(item.type),
-               isImage ? m_metrics.imageSide : m_metrics.symbolSide, color);
+  const double side = isImage ? m_metrics.imageSide : m_metrics.symbolSide;
+  const IconHelper::Icon icon = m_iconHelper.icon(item);
+  if (!ThemeIcon::draw(painter, tile, icon.names, side)) {
+    Symbol::draw(painter, tile, icon.symbol, side, color);
+  }
 }
 
 void ItemRowView::paintText(QPainter &painter, const QPalette &palette, const QRectF &area,
@@ -110,8 +115,11 @@ void ItemRowView::paintText(QPainter &painter, const QPalette &palette, const QR
   if (m_appState.showURLs()) {
     line.moveTop(line.bottom() + PanelMetrics::textSpacing);
     line.setHeight(QFontMetricsF(m_metrics.pathFont).height());
+    // A path runs from left to right, in whatever script its parts are.
+    painter.setLayoutDirection(Qt::LeftToRight);
     drawLine(painter, line, m_metrics.pathFont, fillColor(FillStyle::secondary, palette),
              displayPath(item), Qt::ElideMiddle);
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
   }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Utilities/IconHelper.h"
+
 #include <QtCore/QString>
 
 class QPainter;
@@ -49,6 +51,7 @@ class ItemRowView {
 
   const AppState &m_appState;
   const PanelMetrics &m_metrics;
+  IconHelper m_iconHelper;
 };
 
 }  // namespace lanternix

@@ -24,21 +24,39 @@ int heightOf(PanelRow::Kind kind, const PanelListLayout::Heights &heights) {
   return 0;
 }
 
+/// The height of the rows below the header \p row, all unfolded.
+int bodyHeight(const QList<PanelRow> &rows, qsizetype row,
+               const PanelListLayout::Heights &heights) {
+  int height = 0;
+  for (++row; row < rows.size() && !rows[row].startsSection; ++row) {
+    height += heightOf(rows[row].kind, heights);
+  }
+  return height;
+}
+
 }  // namespace
 
-void PanelListLayout::layOut(const QList<PanelRow> &rows, const Heights &heights) {
+void PanelListLayout::layOut(const QList<PanelRow> &rows, const Heights &heights,
+                             const Openness &openness) {
   m_spans.clear();
   m_spans.reserve(static_cast<size_t>(rows.size()));
   int y = static_cast<int>(PanelMetrics::listPadding);
-  for (const PanelRow &row : rows) {
-    if (row.startsSection && !m_spans.empty()) {
-      y += static_cast<int>(PanelMetrics::sectionSpacing);
+  int clip = 0;  // the lower edge of the last section's first row
+  for (qsizetype row = 0; row < rows.size(); ++row) {
+    const bool startsSection = rows[row].startsSection;
+    if (startsSection && !m_spans.empty()) {
+      y = std::max(y, clip) + static_cast<int>(PanelMetrics::sectionSpacing);
     }
-    const int bottom = y + heightOf(row.kind, heights);
-    m_spans.push_back({y, bottom});
+    const int bottom = y + heightOf(rows[row].kind, heights);
+    clip = startsSection ? bottom : clip;
+    m_spans.push_back(startsSection ? Span{y, bottom, y}
+                                    : Span{std::max(y, clip), std::max(bottom, clip), y});
     y = bottom;
+    if (const auto part = openness.constFind(row); part != openness.constEnd()) {
+      y -= qRound((1 - *part) * bodyHeight(rows, row, heights));
+    }
   }
-  m_height = y + static_cast<int>(PanelMetrics::listPadding);
+  m_height = std::max(y, clip) + static_cast<int>(PanelMetrics::listPadding);
 }
 
 qsizetype PanelListLayout::firstRowBelow(int y) const {

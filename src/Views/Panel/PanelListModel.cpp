@@ -103,6 +103,14 @@ QHash<int, QByteArray> PanelListModel::roleNames() const {
   return names;
 }
 
+void PanelListModel::setLingering(const QUuid &group, bool lingers) {
+  if (lingers) {
+    m_lingeringGroups.insert(group);
+  } else if (m_lingeringGroups.remove(group)) {
+    rebuild();
+  }
+}
+
 void PanelListModel::rebuild() {
   beginResetModel();
   m_rows = recentRows() + groupRows();
@@ -130,7 +138,7 @@ QList<PanelRow> PanelListModel::groupRows() const {
   for (const qsizetype groupPosition : m_appState.filteredGroupPositions()) {
     const PathGroup &group = m_appState.groups()[groupPosition];
     rows.append({PanelRow::Kind::groupHeader, groupPosition});
-    if (!group.isExpanded) {
+    if (!group.isExpanded && !m_lingeringGroups.contains(group.id)) {
       continue;
     }
     const std::span<const qsizetype> itemPositions = m_appState.itemPositionsForGroup(group.id);

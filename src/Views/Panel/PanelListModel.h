@@ -4,6 +4,8 @@
 
 #include <QtCore/QAbstractListModel>
 #include <QtCore/QList>
+#include <QtCore/QSet>
+#include <QtCore/QUuid>
 
 #include <optional>
 
@@ -34,6 +36,10 @@ class PanelListModel : public QAbstractListModel {
 
   const QList<PanelRow> &rows() const { return m_rows; }
 
+  /// Whether the rows of \p group stay in the list while it is folded, so that they can be seen
+  /// going away.
+  void setLingering(const QUuid &group, bool lingers);
+
   /// The item of an item row, the group of a group's row; null for rows of another kind.
   const PathItem *itemAt(qsizetype row) const;
   const PathGroup *groupAt(qsizetype row) const;
@@ -48,6 +54,7 @@ class PanelListModel : public QAbstractListModel {
 
   AppState &m_appState;
   QList<PanelRow> m_rows;
+  QSet<QUuid> m_lingeringGroups;
 };
 
 }  // namespace lanternix

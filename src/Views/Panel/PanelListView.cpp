@@ -3,12 +3,12 @@
 #include "App/AppState.h"
 #include "Views/Panel/ItemContextMenu.h"
 #include "Views/Panel/PanelListModel.h"
-#include "Views/Style/FillStyle.h"
 #include "Views/Style/SlimScrollBar.h"
 
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyle>
 
 #include <utility>
 
@@ -16,63 +16,74 @@ using namespace Qt::StringLiterals;
 
 namespace lanternix {
 
-namespace {
-
-constexpr int dividerHeight = 1;
-constexpr int dividerPadding = 6;
-constexpr int dividerSidePadding = 16;
-
-}  // namespace
-
 PanelListView::PanelListView(AppState &appState, PanelListModel &model, QWidget *parent)
     : QAbstractScrollArea(parent),
       m_appState(appState),
       m_model(model),
-      m_metrics(PanelMetrics::forSize(appState.panelItemSize())),
-      m_itemRow(appState, m_metrics),
-      m_groupSection(m_metrics),
-      m_recentHeader(u"Recently Opened"_s, u"clock.fill"_s, SystemColor::orange) {
+      m_rowPainter(appState, model) {
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::NoFocus);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setVerticalScrollBar(new SlimScrollBar(Qt::Vertical, this));
+  new SlimScrollBar(this);  // which owns it
   setAccessibleName(u"Items"_s);
   viewport()->setMouseTracking(true);
   viewport()->setAutoFillBackground(false);
 
-  connect(&model, &QAbstractItemModel::modelReset, this, &PanelListView::layOutRows);
+  connect(&model, &QAbstractItemModel::modelReset, this, &PanelListView::readRows);
   connect(&appState, &AppState::selectedItemIdChanged, this, &PanelListView::scrollToSelection);
   connect(&appState, &AppState::panelItemSizeChanged, this, &PanelListView::updateMetrics);
-  connect(&appState, &AppState::showURLsChanged, this, &PanelListView::layOutRows);
-  layOutRows();
+  connect(&appState, &AppState::showURLsChanged, this, &PanelListView::updateMetrics);
+  connect(&appState, &AppState::searchQueryChanged, &m_folding, &GroupFolding::finish);
+  connect(&m_folding, &GroupFolding::moved, this, &PanelListView::layOutRows);
+  connect(&m_folding, &GroupFolding::settled, this, [this](const QUuid &group) {
+    m_model.setLingering(group, false);
+    layOutRows();
+  });
+  connect(&m_hover, &HoverFade::faded, this, [this](qsizetype row) {
+    if (row >= 0 && row < m_model.rows().size()) {
+      viewport()->update(rowRect(row));
+    }
+  });
+  readRows();
 }
 
 void PanelListView::updateMetrics() {
-  m_metrics = PanelMetrics::forSize(m_appState.panelItemSize());
+  m_rowPainter.updateMetrics();
   layOutRows();
+  scrollToSelection();
+}
+
+void PanelListView::readRows() {
+  m_pressedRow = -1;
+  m_hover.reset(-1);
+  layOutRows();
+  // A list that changes below a user who has scrolled away stays where it is; a new search does
+  // not.
+  if (std::exchange(m_shownQuery, m_appState.searchQuery()) != m_appState.searchQuery()) {
+    scrollToSelection();
+  }
 }
 
 void PanelListView::layOutRows() {
-  m_layout.layOut(m_model.rows(),
-                  {
-                      .recentHeader = static_cast<int>(m_recentHeader.height()),
-                      .item = static_cast<int>(m_itemRow.height()),
-                      .divider = dividerHeight + 2 * dividerPadding,
-                      .groupHeader = static_cast<int>(m_groupSection.headerHeight()),
-                      .emptyGroup = static_cast<int>(m_groupSection.emptyHeight()),
-                  });
-  m_pressedRow = -1;
+  PanelListLayout::Openness openness;
+  if (m_folding.isMoving()) {
+    for (qsizetype row = 0; row < m_model.rows().size(); ++row) {
+      const PathGroup *group = m_model.groupAt(row);
+      if (group != nullptr && m_folding.isMoving(group->id)) {
+        openness.insert(row, m_folding.openness(group->id));
+      }
+    }
+  }
+  m_layout.layOut(m_model.rows(), m_rowPainter.heights(), openness);
   updateScrollBar();
-  scrollToSelection();
-  const QPoint pointer = viewport()->mapFromGlobal(QCursor::pos());
-  setHoveredRow(viewport()->underMouse() ? rowAt(pointer) : -1);
+  m_hover.reset(rowUnderPointer());
   viewport()->update();
 }
 
 void PanelListView::updateScrollBar() {
   QScrollBar *bar = verticalScrollBar();
   bar->setPageStep(viewport()->height());
-  bar->setSingleStep(static_cast<int>(m_itemRow.height()) / 2);
+  bar->setSingleStep(m_rowPainter.heights().item / 2);
   bar->setRange(0, qMax(0, m_layout.height() - viewport()->height()));
 }
 
@@ -85,6 +96,10 @@ qsizetype PanelListView::rowAt(const QPoint &position) const {
   return viewport()->rect().contains(position)
              ? m_layout.rowAt(position.y() + verticalScrollBar()->value())
              : -1;
+}
+
+qsizetype PanelListView::rowUnderPointer() const {
+  return viewport()->underMouse() ? rowAt(viewport()->mapFromGlobal(QCursor::pos())) : -1;
 }
 
 void PanelListView::scrollToSelection() {
@@ -107,14 +122,6 @@ void PanelListView::scrollToSelection() {
   }
 }
 
-void PanelListView::setHoveredRow(qsizetype row) {
-  if (row == m_hoveredRow) {
-    return;
-  }
-  m_hoveredRow = row;
-  viewport()->update();
-}
-
 void PanelListView::paintEvent(QPaintEvent *event) {
   QPainter painter(viewport());
   painter.setRenderHint(QPainter::Antialiasing);
@@ -122,40 +129,35 @@ void PanelListView::paintEvent(QPaintEvent *event) {
   const int bottom = event->rect().bottom() + scrolled;
   for (qsizetype row = m_layout.firstRowBelow(event->rect().top() + scrolled);
        row < m_model.rows().size() && m_layout.top(row) <= bottom; ++row) {
-    paintRow(painter, row);
+    if (m_layout.top(row) < m_layout.bottom(row)) {
+      paintRow(painter, row);
+    }
   }
 }
 
 void PanelListView::paintRow(QPainter &painter, qsizetype row) const {
-  const QRectF area = rowRect(row);
+  QRect area = rowRect(row);
+  const int hidden = m_layout.top(row) - m_layout.wholeTop(row);
+  if (hidden > 0) {
+    painter.save();
+    painter.setClipRect(area);
+  }
+  area.setTop(area.top() - hidden);
   const PathItem *item = m_model.itemAt(row);
-  const PathGroup *group = m_model.groupAt(row);
-  switch (m_model.rows()[row].kind) {
-    case PanelRow::Kind::recentHeader:
-      m_recentHeader.paint(painter, palette(), area);
-      break;
-    case PanelRow::Kind::item:
-      m_itemRow.paint(painter, palette(), area, *item,
-                      {.selected = m_appState.selectedItemId() == item->id,
-                       .hover = row == m_hoveredRow ? 1.0 : 0.0});
-      break;
-    case PanelRow::Kind::divider:
-      paintDivider(painter, area);
-      break;
-    case PanelRow::Kind::groupHeader:
-      m_groupSection.paintHeader(painter, palette(), area, *group,
-                                 std::ssize(m_appState.itemPositionsForGroup(group->id)));
-      break;
-    case PanelRow::Kind::emptyGroup:
-      m_groupSection.paintEmpty(painter, palette(), area);
-      break;
+  m_rowPainter.paint(painter, palette(), area, row,
+                     {.selected = item != nullptr && m_appState.selectedItemId() == item->id,
+                      .hover = m_hover.strength(row),
+                      .openness = openness(m_model.groupAt(row))});
+  if (hidden > 0) {
+    painter.restore();
   }
 }
 
-void PanelListView::paintDivider(QPainter &painter, const QRectF &row) const {
-  painter.fillRect(
-      row.adjusted(dividerSidePadding, dividerPadding, -dividerSidePadding, -dividerPadding),
-      fillColor(FillStyle::quaternary, palette()));
+double PanelListView::openness(const PathGroup *group) const {
+  if (group == nullptr) {
+    return 1;
+  }
+  return m_folding.isMoving(group->id) ? m_folding.openness(group->id) : group->isExpanded ? 1 : 0;
 }
 
 void PanelListView::resizeEvent(QResizeEvent *event) {
@@ -171,8 +173,12 @@ void PanelListView::changeEvent(QEvent *event) {
 }
 
 bool PanelListView::viewportEvent(QEvent *event) {
-  if (event->type() == QEvent::Leave || event->type() == QEvent::Hide) {
-    setHoveredRow(-1);
+  if (event->type() == QEvent::Leave) {
+    m_hover.moveTo(-1, isAnimated());
+  } else if (event->type() == QEvent::Hide) {
+    // Nothing moves in a window that nobody sees.
+    m_hover.reset(-1);
+    m_folding.finish();
   }
   return QAbstractScrollArea::viewportEvent(event);
 }
@@ -180,6 +186,10 @@ bool PanelListView::viewportEvent(QEvent *event) {
 bool PanelListView::isClickable(qsizetype row) const {
   return m_model.itemAt(row) != nullptr ||
          (row >= 0 && m_model.rows()[row].kind == PanelRow::Kind::groupHeader);
+}
+
+bool PanelListView::isAnimated() const {
+  return isVisible() && style()->styleHint(QStyle::SH_Widget_Animate, nullptr, this) != 0;
 }
 
 void PanelListView::mousePressEvent(QMouseEvent *event) {
@@ -195,7 +205,7 @@ void PanelListView::mouseDoubleClickEvent(QMouseEvent *event) {
 }
 
 void PanelListView::mouseMoveEvent(QMouseEvent *event) {
-  setHoveredRow(rowAt(event->position().toPoint()));
+  m_hover.moveTo(rowAt(event->position().toPoint()), isAnimated());
   event->setAccepted(m_pressedRow >= 0);
 }
 
@@ -212,14 +222,36 @@ void PanelListView::activate(qsizetype row) {
   if (const PathItem *item = m_model.itemAt(row)) {
     m_appState.openItem(PathItem(*item));
   } else if (const PathGroup *group = m_model.groupAt(row)) {
-    m_appState.toggleGroup(QUuid(group->id));
+    toggle(PathGroup(*group));
   }
+}
+
+void PanelListView::toggle(const PathGroup &group) {
+  if (isAnimated()) {
+    m_model.setLingering(group.id, true);
+    m_folding.start(group.id, !group.isExpanded);
+  }
+  m_appState.toggleGroup(group.id);
 }
 
 void PanelListView::contextMenuEvent(QContextMenuEvent *event) {
   if (const PathItem *item = m_model.itemAt(rowAt(event->pos()))) {
     ItemContextMenu::popUp(m_appState, *item, event->globalPos(), this);
   }
+}
+
+bool PanelListView::openMenuOfSelection() {
+  const auto &selected = m_appState.selectedItemId();
+  const qsizetype row = selected ? m_model.rowOfItem(*selected) : -1;
+  if (row < 0) {
+    return false;
+  }
+  scrollToSelection();
+  // Below the name, which stays readable.
+  const QRect area = rowRect(row);
+  const QPoint place(area.left() + static_cast<int>(2 * PanelMetrics::sidePadding), area.bottom());
+  ItemContextMenu::popUp(m_appState, *m_model.itemAt(row), viewport()->mapToGlobal(place), this);
+  return true;
 }
 
 }  // namespace lanternix

@@ -1,10 +1,9 @@
 #pragma once
 
-#include "Views/Panel/GroupSectionView.h"
-#include "Views/Panel/ItemRowView.h"
+#include "Views/Panel/GroupFolding.h"
+#include "Views/Panel/HoverFade.h"
 #include "Views/Panel/PanelListLayout.h"
-#include "Views/Panel/PanelMetrics.h"
-#include "Views/Panel/SectionHeaderView.h"
+#include "Views/Panel/PanelRowPainter.h"
 
 #include <QtWidgets/QAbstractScrollArea>
 
@@ -15,7 +14,7 @@ class PanelListModel;
 
 /// The panel's scrolling list. One widget that draws only the rows in sight, so that ten thousand
 /// items cost what ten cost. A click opens an item or folds a group; the selection is moved by the
-/// panel's keys and is always kept in sight.
+/// panel's keys and is brought into sight whenever it or the search changes.
 class PanelListView : public QAbstractScrollArea {
   Q_OBJECT
 
@@ -26,6 +25,12 @@ class PanelListView : public QAbstractScrollArea {
   QRect rowRect(qsizetype row) const;
   /// The row at a viewport position, or -1.
   qsizetype rowAt(const QPoint &position) const;
+
+  /// Opens the context menu of the selected item beside its row; false when there is none.
+  bool openMenuOfSelection();
+
+  /// Does what a click on \p row does: opens its item, or folds or unfolds its group.
+  void activate(qsizetype row);
 
  protected:
   void paintEvent(QPaintEvent *event) override;
@@ -40,24 +45,26 @@ class PanelListView : public QAbstractScrollArea {
 
  private:
   void updateMetrics();
+  void readRows();
   void layOutRows();
   void updateScrollBar();
   void scrollToSelection();
-  void setHoveredRow(qsizetype row);
+  qsizetype rowUnderPointer() const;
   bool isClickable(qsizetype row) const;
-  void activate(qsizetype row);
+  bool isAnimated() const;
+  double openness(const PathGroup *group) const;
+  void toggle(const PathGroup &group);
   void paintRow(QPainter &painter, qsizetype row) const;
-  void paintDivider(QPainter &painter, const QRectF &row) const;
 
   AppState &m_appState;
   PanelListModel &m_model;
-  PanelMetrics m_metrics;
-  ItemRowView m_itemRow;
-  GroupSectionView m_groupSection;
-  SectionHeaderView m_recentHeader;
+  PanelRowPainter m_rowPainter;
   PanelListLayout m_layout;
-  qsizetype m_hoveredRow = -1;
+  HoverFade m_hover;
+  GroupFolding m_folding;
   qsizetype m_pressedRow = -1;
+  /// The query for which the selection was last brought into sight.
+  QString m_shownQuery;
 };
 
 }  // namespace lanternix

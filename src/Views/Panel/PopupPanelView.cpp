@@ -10,9 +10,12 @@
 #include "Views/Panel/SearchBarView.h"
 #include "Views/Style/DividerLine.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/Material.h"
 #include "Views/Style/SlimScrollBar.h"
 #include "Views/Style/SymbolLabel.h"
 
+#include <QtGui/QContextMenuEvent>
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QScrollArea>
@@ -22,6 +25,12 @@
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
+
+namespace {
+
+constexpr double cornerRadius = 12;
+
+}  // namespace
 
 PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
     : QWidget(parent),
@@ -50,6 +59,7 @@ PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
   layout->addWidget(new DividerLine(this));
   layout->addWidget(new PanelFooterView(appState, this));
 
+  m_searchBar->focusProxy()->installEventFilter(this);
   connect(m_model, &QAbstractItemModel::modelReset, this, &PopupPanelView::updateMessages);
   updateMessages();
 }
@@ -79,7 +89,7 @@ QWidget *PopupPanelView::makeMessages() {
   m_messages->setFrameShape(QFrame::NoFrame);
   m_messages->setFocusPolicy(Qt::NoFocus);
   m_messages->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  m_messages->setVerticalScrollBar(new SlimScrollBar(Qt::Vertical, m_messages));
+  new SlimScrollBar(m_messages);  // which owns it
   m_messages->viewport()->setAutoFillBackground(false);
   content->setAutoFillBackground(false);
   return m_messages;
@@ -109,8 +119,33 @@ void PopupPanelView::focusSearch() {
   m_searchBar->focusField();
 }
 
+// The keyboard is always with the search field, and its wish for a menu is meant for the item that
+// the arrow keys have selected.
+bool PopupPanelView::eventFilter(QObject * /*watched*/, QEvent *event) {
+  if (event->type() == QEvent::ContextMenu) {
+    return static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard &&
+           m_list->openMenuOfSelection();
+  }
+  if (event->type() == QEvent::KeyPress) {
+    const auto *press = static_cast<QKeyEvent *>(event);
+    return press->key() == Qt::Key_F10 && press->modifiers() == Qt::ShiftModifier &&
+           m_list->openMenuOfSelection();
+  }
+  return false;
+}
+
 void PopupPanelView::paintEvent(QPaintEvent * /*event*/) {
-  QPainter(this).fillRect(rect(), palette().color(QPalette::Window));
+  // The corners of a window that is blended with what is below it are round; those of any other
+  // are cut off by its shape.
+  QPainter painter(this);
+  if (!window()->testAttribute(Qt::WA_TranslucentBackground)) {
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    return;
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(materialColor(palette()));
+  painter.drawRoundedRect(rect(), cornerRadius, cornerRadius);
 }
 
 }  // namespace lanternix

@@ -26,6 +26,7 @@ class PopupPanelView : public QWidget {
   void focusSearch();
 
  protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
  private:

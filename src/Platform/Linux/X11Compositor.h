@@ -1,0 +1,48 @@
+#pragma once
+
+#include "Platform/Linux/X11Server.h"
+#include "Platform/WindowSystem.h"
+
+#include <QtCore/QAbstractNativeEventFilter>
+#include <QtCore/QObject>
+
+#include <array>
+#include <span>
+
+namespace lanternix {
+
+/// The program that blends windows with what is below them, if one runs. All lengths are the
+/// server's own pixels.
+class X11Compositor : public QObject, public QAbstractNativeEventFilter {
+  Q_OBJECT
+
+ public:
+  explicit X11Compositor(const X11Server &server);
+  ~X11Compositor() override;
+
+  bool isRunning() const { return m_isRunning; }
+
+  /// Marks what of \p window is the window proper: only that takes presses, is placed and tiled,
+  /// and has what is behind it blurred. Lengths in \p frame are the server's pixels too.
+  void setFrame(xcb_window_t window, const WindowSystem::Frame &frame);
+
+  bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
+
+ Q_SIGNALS:
+  /// A compositor has started, or the last one has ended.
+  void changed();
+
+ private:
+  enum Name : std::size_t { selection, frameExtents, blurBehind, nameCount };
+
+  void watch();
+  void update(bool isRunning);
+  void setNumbers(xcb_window_t window, xcb_atom_t property, std::span<const quint32> numbers);
+
+  const X11Server &m_server;
+  std::array<xcb_atom_t, nameCount> m_atoms{};
+  quint8 m_firstEvent = 0;
+  bool m_isRunning = false;
+};
+
+}  // namespace lanternix

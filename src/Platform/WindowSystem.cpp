@@ -1,0 +1,9 @@
+#include "Platform/WindowSystem.h"
+
+namespace lanternix {
+
+WindowSystem::WindowSystem() = default;
+
+WindowSystem::~WindowSystem() = default;
+
+}  // namespace lanternix

@@ -1,0 +1,94 @@
+#include "Views/Style/ButtonDrawing.h"
+
+#include "Views/Style/FillStyle.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QStyleOptionButton>
+
+namespace lanternix::ButtonDrawing {
+
+namespace {
+
+constexpr double radius = 6;
+constexpr int sidePadding = 12;
+constexpr int linePadding = 5;
+constexpr int iconSpacing = 5;
+constexpr double focusWidth = 2;
+
+bool isProminent(const QStyleOptionButton &option) {
+  return option.features.testFlag(QStyleOptionButton::DefaultButton) &&
+         option.state.testFlag(QStyle::State_Enabled);
+}
+
+QColor groundColor(const QStyleOptionButton &option) {
+  constexpr int pressedDarkness = 115;  // percent
+  constexpr int hoverDarkness = 105;
+  const QColor ground = isProminent(option) ? option.palette.color(QPalette::Highlight)
+                                            : fillColor(FillStyle::quaternary, option.palette);
+  if (option.state.testFlag(QStyle::State_Sunken)) {
+    return ground.darker(pressedDarkness);
+  }
+  return option.state.testFlag(QStyle::State_MouseOver) ? ground.darker(hoverDarkness) : ground;
+}
+
+QColor textColor(const QStyleOptionButton &option) {
+  if (isProminent(option)) {
+    return option.palette.color(QPalette::HighlightedText);
+  }
+  return fillColor(
+      option.state.testFlag(QStyle::State_Enabled) ? FillStyle::primary : FillStyle::tertiary,
+      option.palette);
+}
+
+QImage tinted(const QIcon &icon, const QSize &size, double ratio, const QColor &color) {
+  QImage image =
+      icon.pixmap(size, ratio).toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  QPainter painter(&image);
+  painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+  painter.fillRect(image.rect(), color);
+  return image;
+}
+
+}  // namespace
+
+void drawButton(QPainter &painter, const QStyleOptionButton &option) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(groundColor(option));
+  const QRectF shape =
+      QRectF(option.rect).adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
+  painter.drawRoundedRect(shape, radius, radius);
+  if (option.state.testFlag(QStyle::State_HasFocus)) {
+    QColor ring = option.palette.color(QPalette::Highlight);
+    constexpr float ringOpacity = 0.5F;
+    ring.setAlphaF(ringOpacity);
+    painter.setPen(QPen(ring, focusWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(
+        QRectF(option.rect)
+            .adjusted(focusWidth / 2, focusWidth / 2, -focusWidth / 2, -focusWidth / 2),
+        radius + 1, radius + 1);
+  }
+
+  const QColor color = textColor(option);
+  const int textWidth = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).width();
+  const int iconWidth = option.icon.isNull() ? 0 : option.iconSize.width() + iconSpacing;
+  QRectF text = shape;
+  text.setLeft(shape.center().x() - (textWidth + iconWidth) / 2.0);
+  if (iconWidth > 0) {
+    const QPointF corner(text.left(), shape.center().y() - option.iconSize.height() / 2.0);
+    painter.drawImage(
+        corner, tinted(option.icon, option.iconSize, painter.device()->devicePixelRatioF(), color));
+    text.setLeft(text.left() + iconWidth);
+  }
+  painter.setPen(color);
+  painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, option.text);
+  painter.restore();
+}
+
+QSize buttonSize(const QSize &contents) {
+  return contents + QSize(2 * sidePadding, 2 * linePadding);
+}
+
+}  // namespace lanternix::ButtonDrawing

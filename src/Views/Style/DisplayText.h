@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QtCore/QString>
+
+class QFont;
+
+namespace lanternix {
+
+/// Texts of the user's as they are drawn in one line.
+namespace DisplayText {
+
+/// \p text with a blank for each character that would break the line, move the pen or turn the
+/// direction of what follows. Unchanged, and not copied, when it has none.
+QString singleLine(const QString &text);
+
+/// \p text in one line of at most \p width logical pixels, with an ellipsis where something had to
+/// go. Takes the same time for a text of any length.
+QString elided(const QString &text, const QFont &font, Qt::TextElideMode mode, double width);
+
+}  // namespace DisplayText
+
+}  // namespace lanternix

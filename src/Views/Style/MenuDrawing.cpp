@@ -1,0 +1,144 @@
+#include "Views/Style/MenuDrawing.h"
+
+#include "Views/Style/Contrast.h"
+#include "Views/Style/FillStyle.h"
+#include "Views/Style/Symbol.h"
+#include "Views/Style/SystemColors.h"
+
+#include <QtGui/QPainter>
+#include <QtGui/QPainterPath>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QStyleOptionMenuItem>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix::MenuDrawing {
+
+namespace {
+
+constexpr int sidePadding = 10;
+constexpr int linePadding = 4;
+constexpr int separatorHeight = 11;
+constexpr int iconSpacing = 8;
+constexpr int columnSpacing = 24;  // between an entry's text and its shortcut
+constexpr int arrowSide = 10;
+constexpr double highlightRadius = 5;
+
+QFont fontOf(const QStyleOptionMenuItem &option) {
+  return option.font;
+}
+
+bool isDestructive(const QStyleOptionMenuItem &option, const QWidget *widget) {
+  const auto *menu = qobject_cast<const QMenu *>(widget);
+  const QAction *action = menu != nullptr ? menu->actionAt(option.rect.center()) : nullptr;
+  return action != nullptr && action->property("destructive").toBool();
+}
+
+struct Colors {
+  QColor highlight;
+  QColor text;
+};
+
+Colors colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
+  const QPalette &palette = option.palette;
+  const bool isSelected = option.state.testFlag(QStyle::State_Selected);
+  if (!option.state.testFlag(QStyle::State_Enabled)) {
+    return {Qt::transparent, fillColor(FillStyle::tertiary, palette)};
+  }
+  if (isDestructive(option, widget)) {
+    const QColor red = systemColor(SystemColor::red, palette);
+    return isSelected ? Colors{Contrast::readableOn(Qt::white, red), Qt::white}
+                      : Colors{Qt::transparent,
+                               Contrast::readableOn(palette.color(QPalette::Window), red)};
+  }
+  return isSelected
+             ? Colors{palette.color(QPalette::Highlight), palette.color(QPalette::HighlightedText)}
+             : Colors{Qt::transparent, fillColor(FillStyle::primary, palette)};
+}
+
+void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, QRect &text,
+              const QColor &color) {
+  const int side = option.fontMetrics.height();
+  if (option.menuHasCheckableItems) {
+    if (option.checked) {
+      Symbol::draw(painter, QRect(text.left(), text.top(), side, text.height()), u"checkmark"_s,
+                   arrowSide, color);
+    }
+    text.setLeft(text.left() + side);
+  }
+  if (option.maxIconWidth > 0) {
+    const QRect place(text.left(), text.center().y() - side / 2, side, side);
+    option.icon.paint(
+        &painter, place, Qt::AlignCenter,
+        option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled);
+    text.setLeft(place.right() + 1 + iconSpacing);
+  }
+}
+
+}  // namespace
+
+void drawPanel(QPainter &painter, const QPalette &palette, const QRect &area) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(fillColor(FillStyle::quaternary, palette), 1));
+  painter.setBrush(palette.color(QPalette::Window));
+  painter.drawRoundedRect(QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5), panelRadius, panelRadius);
+  painter.restore();
+}
+
+void drawItem(QPainter &painter, const QStyleOptionMenuItem &option, const QWidget *menu) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (option.menuItemType == QStyleOptionMenuItem::Separator) {
+    const QRectF line(option.rect.left() + sidePadding, option.rect.center().y(),
+                      option.rect.width() - 2 * sidePadding, 1);
+    painter.fillRect(line, fillColor(FillStyle::quaternary, option.palette));
+    painter.restore();
+    return;
+  }
+  const Colors colors = colorsOf(option, menu);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(colors.highlight);
+  painter.drawRoundedRect(option.rect, highlightRadius, highlightRadius);
+
+  QRect text = option.rect.adjusted(sidePadding, 0, -sidePadding, 0);
+  drawMark(painter, option, text, colors.text);
+  painter.setFont(fontOf(option));
+  painter.setPen(colors.text);
+  const QString label = option.text.section(u'\t', 0, 0);
+  const QString shortcut = option.text.section(u'\t', 1);
+  painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextHideMnemonic, label);
+  painter.drawText(text, Qt::AlignRight | Qt::AlignVCenter, shortcut);
+  if (option.menuItemType == QStyleOptionMenuItem::SubMenu) {
+    text.setLeft(text.right() - arrowSide);
+    Symbol::draw(painter, text, u"chevron.right"_s, arrowSide, colors.text);
+  }
+  painter.restore();
+}
+
+QSize itemSize(const QStyleOptionMenuItem &option, const QSize &contents) {
+  if (option.menuItemType == QStyleOptionMenuItem::Separator) {
+    return {contents.width(), separatorHeight};
+  }
+  const QFontMetrics metrics(fontOf(option));
+  const QString label = option.text.section(u'\t', 0, 0);
+  const QString shortcut = option.text.section(u'\t', 1);
+  int width = metrics.size(Qt::TextHideMnemonic, label).width() + 2 * sidePadding;
+  width += option.menuHasCheckableItems ? metrics.height() : 0;
+  width += option.maxIconWidth > 0 ? metrics.height() + iconSpacing : 0;
+  if (!shortcut.isEmpty()) {
+    width += metrics.horizontalAdvance(shortcut) + columnSpacing;
+  }
+  if (option.menuItemType == QStyleOptionMenuItem::SubMenu) {
+    width += columnSpacing;
+  }
+  return {width, metrics.height() + 2 * linePadding};
+}
+
+QRegion panelRegion(const QRect &area) {
+  QPainterPath outline;
+  outline.addRoundedRect(area, panelRadius, panelRadius);
+  return QRegion(outline.toFillPolygon().toPolygon());
+}
+
+}  // namespace lanternix::MenuDrawing

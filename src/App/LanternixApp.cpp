@@ -1,6 +1,7 @@
 #include "App/LanternixApp.h"
 
 #include "App/AppDelegate.h"
+#include "App/AppearanceFollower.h"
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/WindowSystem.h"
@@ -52,6 +53,7 @@ int LanternixApp::run(int argc, char **argv) {
   }
   const std::unique_ptr<Platform> platform = Platform::create();
   followCompositing(platform->windowSystem(), *style);
+  const AppearanceFollower appearance(platform->systemAppearance(), *style);
   AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
   QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
                    &AppDelegate::showPanel);

@@ -12,9 +12,7 @@
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/Material.h"
 #include "Views/Style/SlimScrollBar.h"
-#include "Views/Style/Symbol.h"
 #include "Views/Style/SymbolLabel.h"
-#include "Views/Style/TextStyle.h"
 
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QKeyEvent>
@@ -72,7 +70,7 @@ QWidget *PopupPanelView::makeSearchRow() {
   layout->setContentsMargins(20, 0, 20, 14);
   layout->setSpacing(10);
   layout->addWidget(new SymbolLabel(
-      u"magnifyingglass"_s, Symbol::sideFor(textFont(TextStyle::title3)),
+      u"magnifyingglass"_s, TextStyle::title3,
       [](const QPalette &palette) { return fillColor(FillStyle::secondary, palette); }, row));
   layout->addWidget(m_searchBar, 1);
   return row;

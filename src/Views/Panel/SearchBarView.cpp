@@ -1,7 +1,9 @@
 #include "Views/Panel/SearchBarView.h"
 
 #include "App/AppState.h"
+#include "Views/Style/Contrast.h"
 #include "Views/Style/SymbolButton.h"
+#include "Views/Style/SystemColors.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QSignalBlocker>
@@ -22,9 +24,7 @@ SearchBarView::SearchBarView(AppState &appState, QWidget *parent)
   m_field->setAccessibleName(u"Search"_s);
   m_field->setFrame(false);
   m_field->setTextMargins(0, 0, 0, 0);
-  QPalette clear = m_field->palette();
-  clear.setColor(QPalette::Base, Qt::transparent);
-  m_field->setPalette(clear);
+  updateColors();
   updateFont();
   setFocusProxy(m_field);
 
@@ -56,13 +56,29 @@ void SearchBarView::readQuery() {
   m_clearButton->setVisible(!m_appState.searchQuery().isEmpty());
 }
 
+void SearchBarView::updateColors() {
+  QPalette colors;
+  colors.setColor(QPalette::Base, Qt::transparent);
+  // White letters on the accent colour, which is darkened a little for them; a bright one would
+  // have to become another colour for that and keeps its black letters.
+  constexpr double nearly = 3;
+  const QColor accent = accentColor(palette());
+  if (Contrast::ratio(Qt::white, accent) >= nearly) {
+    colors.setColor(QPalette::Highlight, Contrast::readableOn(Qt::white, accent));
+    colors.setColor(QPalette::HighlightedText, Qt::white);
+  }
+  m_field->setPalette(colors);
+}
+
 void SearchBarView::updateFont() {
   m_field->setFont(textFont(TextStyle::title3));
 }
 
 void SearchBarView::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::ApplicationFontChange) {
+  if (event->type() == QEvent::FontChange) {
     updateFont();
+  } else if (event->type() == QEvent::PaletteChange) {
+    updateColors();
   }
   QWidget::changeEvent(event);
 }

@@ -24,6 +24,7 @@ class SearchBarView : public QWidget {
   void changeEvent(QEvent *event) override;
 
  private:
+  void updateColors();
   void updateFont();
   void readQuery();
 

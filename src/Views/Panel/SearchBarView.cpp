@@ -1,9 +1,8 @@
 #include "Views/Panel/SearchBarView.h"
 
 #include "App/AppState.h"
-#include "Views/Style/Contrast.h"
+#include "Views/Style/AccentFill.h"
 #include "Views/Style/SymbolButton.h"
-#include "Views/Style/SystemColors.h"
 
 #include <QtCore/QEvent>
 #include <QtCore/QSignalBlocker>
@@ -59,14 +58,9 @@ void SearchBarView::readQuery() {
 void SearchBarView::updateColors() {
   QPalette colors;
   colors.setColor(QPalette::Base, Qt::transparent);
-  // White letters on the accent colour, which is darkened a little for them; a bright one would
-  // have to become another colour for that and keeps its black letters.
-  constexpr double nearly = 3;
-  const QColor accent = accentColor(palette());
-  if (Contrast::ratio(Qt::white, accent) >= nearly) {
-    colors.setColor(QPalette::Highlight, Contrast::readableOn(Qt::white, accent));
-    colors.setColor(QPalette::HighlightedText, Qt::white);
-  }
+  const AccentFill selection = AccentFill::of(palette());
+  colors.setColor(QPalette::Highlight, selection.ground);
+  colors.setColor(QPalette::HighlightedText, selection.text);
   m_field->setPalette(colors);
 }
 

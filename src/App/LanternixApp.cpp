@@ -4,6 +4,7 @@
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/WindowSystem.h"
+#include "Views/Panel/PanelAccessibility.h"
 #include "Views/Style/LanternixStyle.h"
 
 #include <QtWidgets/QApplication>
@@ -36,6 +37,7 @@ int LanternixApp::run(int argc, char **argv) {
   int count = qMin(argc, 1);
   const QApplication application(count, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  PanelAccessibility::install();
 
   const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
   if (!instance->claim()) {

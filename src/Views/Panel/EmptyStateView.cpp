@@ -12,6 +12,8 @@ using namespace Qt::StringLiterals;
 namespace lanternix {
 
 EmptyStateView::EmptyStateView(QWidget *parent) : QWidget(parent) {
+  setAccessibleName(u"No items yet"_s);
+  setAccessibleDescription(u"Open Settings to add groups and items"_s);
   constexpr double markSide = 44;
   auto *mark = new SymbolLabel(
       u"arrow.triangle.branch"_s, markSide,

@@ -3,6 +3,7 @@
 #include "App/AppState.h"
 #include "Views/Panel/EmptyStateView.h"
 #include "Views/Panel/NoResultsView.h"
+#include "Views/Panel/PanelAnnouncer.h"
 #include "Views/Panel/PanelFooterView.h"
 #include "Views/Panel/PanelHeaderView.h"
 #include "Views/Panel/PanelListModel.h"
@@ -54,6 +55,7 @@ PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
 
   connect(m_model, &QAbstractItemModel::modelReset, this, &PopupPanelView::updateMessages);
   updateMessages();
+  new PanelAnnouncer(appState, *m_list, this);
 }
 
 QWidget *PopupPanelView::makeSearchRow() {

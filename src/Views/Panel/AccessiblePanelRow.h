@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QtGui/QAccessible>
+
+namespace lanternix {
+
+class AccessiblePanelList;
+class PanelListModel;
+class PanelListView;
+struct PanelRow;
+
+/// One row of the panel's list for a screen reader. An item is heard by its name, then as
+/// "Directory, not found, ~/Projects, in Work"; a group by its name and "3 items", with its state.
+/// An item opens and is selected, a group folds and unfolds by an action. Lives no longer than the
+/// rows of the list stay as they are.
+class AccessiblePanelRow final : public QAccessibleInterface, public QAccessibleActionInterface {
+ public:
+  AccessiblePanelRow(const AccessiblePanelList &list, qsizetype row);
+
+  /// The place in the list's model.
+  qsizetype row() const { return m_row; }
+
+  bool isValid() const override;
+  QObject *object() const override { return nullptr; }
+  QWindow *window() const override;
+  QAccessibleInterface *parent() const override;
+  QAccessibleInterface *child(int index) const override;
+  QAccessibleInterface *childAt(int x, int y) const override;
+  int childCount() const override { return 0; }
+  int indexOfChild(const QAccessibleInterface *child) const override;
+  void *interface_cast(QAccessible::InterfaceType type) override;
+
+  QString text(QAccessible::Text kind) const override;
+  void setText(QAccessible::Text /*kind*/, const QString & /*text*/) override {}
+  /// On the screen; it may lie outside the list's.
+  QRect rect() const override;
+  QAccessible::Role role() const override;
+  QAccessible::State state() const override;
+
+  QStringList actionNames() const override;
+  /// Done when the caller has returned, because the row may not outlive it.
+  void doAction(const QString &actionName) override;
+  QStringList keyBindingsForAction(const QString &actionName) const override;
+
+ private:
+  PanelListView &view() const;
+  const PanelListModel &model() const;
+  const PanelRow &panelRow() const;
+  QString name() const;
+  QString description() const;
+  void addItemState(QAccessible::State &state) const;
+  void addGroupState(QAccessible::State &state) const;
+
+  const AccessiblePanelList &m_list;
+  qsizetype m_row;
+};
+
+}  // namespace lanternix

@@ -6,7 +6,6 @@
 #include "Views/Panel/PopupPanelView.h"
 #include "views/ViewTest.h"
 
-#include <QtCore/QPointer>
 #include <QtGui/QAccessible>
 #include <QtTest/QTest>
 #include <QtWidgets/QAbstractButton>
@@ -18,59 +17,15 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// What readers were told, in words such as "Focus Report".
-QStringList &heard() {
-  static QStringList events;
-  return events;
-}
-
-QString nameOf(QAccessible::Event event) {
-  return QString::fromLatin1(QMetaEnum::fromType<QAccessible::Event>().valueToKey(event));
-}
-
-void hear(QAccessibleEvent *event) {
-  const QAccessibleInterface *about = event->accessibleInterface();
-  heard().append(nameOf(event->type()) + u' ' +
-                 (about == nullptr ? QString() : about->text(QAccessible::Name)));
-}
-
 class PanelAccessibilityTest : public ViewTest {
  protected:
   static void SetUpTestSuite() { PanelAccessibility::install(); }
-
-  void TearDown() override {
-    QAccessible::installUpdateHandler(nullptr);
-    QAccessible::setActive(false);
-    view.reset();
-  }
 
   void show(const QList<PathGroup> &groups, const QList<PathItem> &items) {
     state = makeState(groups, items);
     view = std::make_unique<PopupPanelView>(*state);
     view->resize(500, 400);
     view->show();
-    state->setPanelVisible(true);
-  }
-
-  /// Lets a reader listen from now on.
-  void listen() {
-    QAccessible::installUpdateHandler(hear);
-    QAccessible::setActive(true);
-    QCoreApplication::processEvents();
-    heard().clear();
-  }
-
-  /// What was said of the list since the last time.
-  static QStringList news() {
-    QCoreApplication::processEvents();
-    QStringList result;
-    for (const QString &event : std::exchange(heard(), {})) {
-      if (event.startsWith(u"Focus"_s) || event.startsWith(u"Selection"_s) ||
-          event.startsWith(u"TableModelChanged"_s)) {
-        result.append(event);
-      }
-    }
-    return result;
   }
 
   PanelListView *listView() const { return view->findChild<PanelListView *>(); }
@@ -270,65 +225,6 @@ TEST_F(PanelAccessibilityTest, HostileTexts_AreHarmless) {
   EXPECT_FALSE(descriptionOf(row(2)).contains(u'\n'));
   EXPECT_LE(descriptionOf(row(2)).size(), 1100);
   EXPECT_FALSE(nameOf(row(3)).back().isHighSurrogate());
-}
-
-TEST_F(PanelAccessibilityTest, AMovingSelection_IsTold) {
-  show({work}, {report, notes});
-  listen();
-  state->navigateDown();
-  EXPECT_EQ(news(), (QStringList{u"Selection Report"_s, u"Focus Report"_s}));
-  state->navigateDown();
-  EXPECT_EQ(news(), (QStringList{u"Selection Report"_s, u"Selection Notes"_s, u"Focus Notes"_s}));
-}
-
-TEST_F(PanelAccessibilityTest, ASearch_TellsOfTheRowsOnceAndOfTheFirstMatch) {
-  show({work}, {report, notes});
-  listen();
-  state->setSearchQuery(u"note"_s);
-  EXPECT_EQ(news(),
-            (QStringList{u"TableModelChanged Items"_s, u"Selection Notes"_s, u"Focus Notes"_s}));
-}
-
-TEST_F(PanelAccessibilityTest, WhenNothingIsSelectedAnyMore_TheFieldIsTold) {
-  show({work}, {report, notes});
-  view->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
-  view->focusSearch();
-  state->navigateDown();
-  listen();
-  state->navigateDown();
-  news();
-  state->setSelectedItemId({});
-  EXPECT_EQ(news().last(), u"Focus Search"_s);
-}
-
-TEST_F(PanelAccessibilityTest, TheSameSelectionAgain_IsNotTold) {
-  show({work}, {report, notes});
-  listen();
-  state->setSelectedItemId(report.id);
-  news();
-  state->setSelectedItemId(report.id);
-  EXPECT_EQ(news(), QStringList());
-}
-
-TEST_F(PanelAccessibilityTest, WithoutAReader_NothingIsTold) {
-  show({work}, {report, notes});
-  listen();
-  QAccessible::setActive(false);
-  state->navigateDown();
-  state->setSearchQuery(u"note"_s);
-  EXPECT_EQ(news(), QStringList());
-}
-
-TEST_F(PanelAccessibilityTest, WhileThePanelIsHidden_NothingIsTold) {
-  show({work}, {report, notes});
-  listen();
-  state->navigateDown();
-  news();
-  state->hidePanel();
-  state->addItem(item(u"New"_s, work));
-  state->setSelectedItemId(notes.id);
-  EXPECT_EQ(news(), QStringList());
 }
 
 TEST_F(PanelAccessibilityTest, TheSearchField_HasANameAndSaysWhatCanBeTyped) {

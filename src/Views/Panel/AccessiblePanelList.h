@@ -10,12 +10,13 @@ namespace lanternix {
 
 class PanelListView;
 
-/// The panel's list as a screen reader meets it: a tree whose children are the rows that say
-/// something, that is all but the dividers. A row's interface is made when somebody asks for it and
-/// ends when the list's rows change; without a reader there is none.
+/// The panel's list as a screen reader meets it: a tree with a branch for the recently opened items
+/// and one for each group, and the items below those. A row's interface is made when somebody asks
+/// for it and ends when the list's rows change; without a reader there is none.
 ///
-/// A tree rather than a list, because readers speak of a tree's items whether they are unfolded.
-/// Like the trees of Qt's own views it is flat: a group's items follow its header.
+/// A tree rather than a list, because readers speak of a tree's branches whether they are unfolded,
+/// name the branch when the selection enters it, and count an item among its own ("2 of 5"), for
+/// which they have to ask for no more than one group's items.
 class AccessiblePanelList final : public QAccessibleWidget {
  public:
   explicit AccessiblePanelList(PanelListView &view);
@@ -26,20 +27,25 @@ class AccessiblePanelList final : public QAccessibleWidget {
   /// The interface of one of the model's rows, which is not a divider. Qt's cache owns it.
   QAccessibleInterface *interfaceOfRow(qsizetype row) const;
 
+  /// The header above a row, or -1 for a header.
+  qsizetype headerOf(qsizetype row) const;
+  /// How many rows belong to a header; 0 for any other row.
+  qsizetype rowsBelow(qsizetype header) const;
+
   int childCount() const override;
   QAccessibleInterface *child(int index) const override;
-  /// \p x and \p y on the screen.
+  /// The row at \p x, \p y on the screen, header or not.
   QAccessibleInterface *childAt(int x, int y) const override;
   int indexOfChild(const QAccessibleInterface *child) const override;
 
  private:
-  /// The model's row of each child.
-  const QList<qsizetype> &childRows() const;
+  /// The rows that are headers, from the top.
+  const QList<qsizetype> &headers() const;
   void dropRows();
 
   PanelListView &m_view;
   QMetaObject::Connection m_resetConnection;
-  mutable std::optional<QList<qsizetype>> m_childRows;
+  mutable std::optional<QList<qsizetype>> m_headers;
   mutable QHash<qsizetype, QAccessible::Id> m_interfaces;  // by row, of those asked for
 };
 

@@ -49,9 +49,6 @@ QString itemDescription(const AppState &appState, const PathItem &item) {
   if (appState.showURLs() && !item.path.isEmpty()) {
     parts.append(spoken(ItemRowView::displayPath(item)));
   }
-  if (const PathGroup *group = appState.groupWithId(item.groupId)) {
-    parts.append(u"in "_s + spoken(group->name));
-  }
   return parts.join(u", "_s);
 }
 
@@ -81,19 +78,27 @@ QWindow *AccessiblePanelRow::window() const {
 }
 
 QAccessibleInterface *AccessiblePanelRow::parent() const {
-  return QAccessible::queryAccessibleInterface(&view());
+  const qsizetype header = isValid() ? m_list.headerOf(m_row) : -1;
+  return header < 0 ? QAccessible::queryAccessibleInterface(&view())
+                    : m_list.interfaceOfRow(header);
 }
 
-QAccessibleInterface *AccessiblePanelRow::child(int /*index*/) const {
-  return nullptr;
+int AccessiblePanelRow::childCount() const {
+  return isValid() ? static_cast<int>(m_list.rowsBelow(m_row)) : 0;
+}
+
+QAccessibleInterface *AccessiblePanelRow::child(int index) const {
+  return index >= 0 && index < childCount() ? m_list.interfaceOfRow(m_row + 1 + index) : nullptr;
 }
 
 QAccessibleInterface *AccessiblePanelRow::childAt(int /*x*/, int /*y*/) const {
-  return nullptr;
+  return nullptr;  // a header's area has none of its rows in it
 }
 
-int AccessiblePanelRow::indexOfChild(const QAccessibleInterface * /*child*/) const {
-  return -1;
+int AccessiblePanelRow::indexOfChild(const QAccessibleInterface *child) const {
+  const auto *row = dynamic_cast<const AccessiblePanelRow *>(child);
+  const qsizetype index = row == nullptr ? -1 : row->row() - m_row - 1;
+  return index >= 0 && index < childCount() ? static_cast<int>(index) : -1;
 }
 
 void *AccessiblePanelRow::interface_cast(QAccessible::InterfaceType type) {
@@ -118,11 +123,13 @@ QString AccessiblePanelRow::description() const {
   if (const PathItem *item = model().itemAt(m_row)) {
     return itemDescription(view().appState(), *item);
   }
-  if (panelRow().kind != PanelRow::Kind::groupHeader) {
+  if (panelRow().kind == PanelRow::Kind::emptyGroup) {
     return {};
   }
-  const qlonglong count =
-      model().data(model().index(static_cast<int>(m_row)), PanelListModel::CountRole).toLongLong();
+  const PathGroup *group = model().groupAt(m_row);
+  const qsizetype count = group == nullptr
+                              ? childCount()
+                              : std::ssize(view().appState().itemPositionsForGroup(group->id));
   return count == 1 ? u"1 item"_s : u"%1 items"_s.arg(count);
 }
 
@@ -139,11 +146,10 @@ QAccessible::Role AccessiblePanelRow::role() const {
     return QAccessible::NoRole;
   }
   switch (panelRow().kind) {
-    case PanelRow::Kind::item:
-    case PanelRow::Kind::groupHeader:
-      return QAccessible::TreeItem;
     case PanelRow::Kind::recentHeader:
-      return QAccessible::Heading;
+    case PanelRow::Kind::groupHeader:
+    case PanelRow::Kind::item:
+      return QAccessible::TreeItem;
     case PanelRow::Kind::divider:
       return QAccessible::Separator;
     case PanelRow::Kind::emptyGroup:

@@ -10,9 +10,9 @@ class PanelListView;
 struct PanelRow;
 
 /// One row of the panel's list for a screen reader. An item is heard by its name, then as
-/// "Directory, not found, ~/Projects, in Work"; a group by its name and "3 items", with its state.
-/// An item opens and is selected, a group folds and unfolds by an action. Lives no longer than the
-/// rows of the list stay as they are.
+/// "Directory, not found, ~/Projects"; a group by its name and "3 items", with its state. The rows
+/// of a group are the children of its header. An item opens and is selected, a group folds and
+/// unfolds by an action. Lives no longer than the rows of the list stay as they are.
 class AccessiblePanelRow final : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
   AccessiblePanelRow(const AccessiblePanelList &list, qsizetype row);
@@ -26,7 +26,7 @@ class AccessiblePanelRow final : public QAccessibleInterface, public QAccessible
   QAccessibleInterface *parent() const override;
   QAccessibleInterface *child(int index) const override;
   QAccessibleInterface *childAt(int x, int y) const override;
-  int childCount() const override { return 0; }
+  int childCount() const override;
   int indexOfChild(const QAccessibleInterface *child) const override;
   void *interface_cast(QAccessible::InterfaceType type) override;
 

@@ -9,6 +9,8 @@
 #include "Views/Panel/ScopeBadgeView.h"
 
 #include <QtCore/QHash>
+#include <QtWidgets/QAccessibleWidget>
+#include <QtWidgets/QLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -49,6 +51,17 @@ QAccessibleInterface *makeInterface(const QString &className, QObject *object) {
 
 void PanelAccessibility::install() {
   QAccessible::installFactory(makeInterface);
+}
+
+void PanelAccessibility::readInOrderOf(const QLayout &layout) {
+  for (int index = 0; index < layout.count(); ++index) {
+    QLayoutItem *item = layout.itemAt(index);
+    if (QWidget *widget = item->widget()) {
+      widget->raise();  // to the end of the children, which is what readers go by
+    } else if (const QLayout *inner = item->layout()) {
+      readInOrderOf(*inner);
+    }
+  }
 }
 
 }  // namespace lanternix

@@ -59,9 +59,8 @@ void PanelAnnouncer::announce() {
 }
 
 void PanelAnnouncer::announceRows() {
-  // One event for the list, as Qt's own item views send it: one for every row would take seconds to
-  // send for a long list.
-  QAccessibleTableModelChangeEvent event(&m_list, QAccessibleTableModelChangeEvent::ModelReset);
+  // Tells of every branch anew; what is below them is asked for when it is wanted.
+  QAccessibleEvent event(&m_list, QAccessible::ObjectReorder);
   QAccessible::updateAccessibility(&event);
 }
 

@@ -245,6 +245,27 @@ TEST_F(PanelAccessibilityTest, ARowThatIsGone_CannotBeReachedAnyMore) {
   EXPECT_EQ(QAccessible::accessibleInterface(id), nullptr);
 }
 
+TEST_F(PanelAccessibilityTest, ARowThatMoves_StaysWhatItWas) {
+  show({work}, {opened(report, 1), notes});
+  QAccessibleInterface *item = list()->child(1)->child(1);
+  state->setSearchQuery(u"note"_s);
+  EXPECT_EQ(list()->child(0)->child(0), item);
+  EXPECT_EQ(nameOf(item), u"Notes"_s);
+  EXPECT_EQ(item->rect().topLeft(),
+            listView()->viewport()->mapToGlobal(listView()->rowRect(1).topLeft()));
+  EXPECT_EQ(item->parent(), list()->child(0));
+}
+
+TEST_F(PanelAccessibilityTest, ItemsThatRepeatAnId_AreRowsOfTheirOwn) {
+  notes.id = report.id;
+  show({work}, {report, notes});
+  QAccessibleInterface *first = list()->child(0)->child(0);
+  QAccessibleInterface *second = list()->child(0)->child(1);
+  EXPECT_NE(first, second);
+  state->setSearchQuery(u"e"_s);
+  EXPECT_EQ(childNames(list()->child(0)), (QStringList{u"Report"_s, u"Notes"_s}));
+}
+
 TEST_F(PanelAccessibilityTest, WhenTheListEnds_ItsRowsEndToo) {
   show({work}, {report, notes});
   const QAccessible::Id id = QAccessible::uniqueId(row(2));

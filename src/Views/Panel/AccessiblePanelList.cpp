@@ -16,26 +16,49 @@ bool isHeader(const PanelRow &row) {
   return row.kind == PanelRow::Kind::recentHeader || row.kind == PanelRow::Kind::groupHeader;
 }
 
+void end(AccessiblePanelRow *interface) {
+  QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(interface));
+}
+
 }  // namespace
 
 AccessiblePanelList::AccessiblePanelList(PanelListView &view)
     : QAccessibleWidget(&view, QAccessible::Tree), m_view(view) {
-  // Before the reset, so that whoever hears of it already meets the new rows.
-  m_resetConnection = QObject::connect(&view.model(), &QAbstractItemModel::modelAboutToBeReset,
-                                       &view, [this] { dropRows(); });
+  m_resetConnection = QObject::connect(&view.model(), &QAbstractItemModel::modelReset, &view,
+                                       [this] { followRows(); });
 }
 
 AccessiblePanelList::~AccessiblePanelList() {
   QObject::disconnect(m_resetConnection);
-  dropRows();
+  for (AccessiblePanelRow *row : std::exchange(m_interfaces, {})) {
+    end(row);
+  }
 }
 
-void AccessiblePanelList::dropRows() {
+void AccessiblePanelList::followRows() {
   m_headers.reset();
-  const QHash<qsizetype, QAccessible::Id> interfaces = std::exchange(m_interfaces, {});
-  for (const QAccessible::Id id : interfaces) {
-    QAccessible::deleteAccessibleInterface(id);
+  QMultiHash<AccessiblePanelRow::Identity, AccessiblePanelRow *> left;
+  for (AccessiblePanelRow *interface : std::exchange(m_interfaces, {})) {
+    left.insert(interface->identity(), interface);
   }
+  const qsizetype count = m_view.model().rows().size();
+  for (qsizetype row = 0; row < count && !left.isEmpty(); ++row) {
+    if (AccessiblePanelRow *moved = left.take(identityOf(row))) {
+      moved->setRow(row);
+      m_interfaces.insert(row, moved);
+    }
+  }
+  for (AccessiblePanelRow *gone : std::as_const(left)) {
+    end(gone);
+  }
+}
+
+AccessiblePanelRow::Identity AccessiblePanelList::identityOf(qsizetype row) const {
+  const PanelListModel &model = m_view.model();
+  const QUuid id = model.data(model.index(static_cast<int>(row)), PanelListModel::IdRole).toUuid();
+  const QList<PanelRow> &rows = model.rows();
+  const bool hasRecent = !rows.isEmpty() && rows.front().kind == PanelRow::Kind::recentHeader;
+  return {rows[row].kind, id, hasRecent && (headers().size() < 2 || row < headers()[1])};
 }
 
 const QList<qsizetype> &AccessiblePanelList::headers() const {
@@ -69,12 +92,12 @@ qsizetype AccessiblePanelList::rowsBelow(qsizetype header) const {
 }
 
 QAccessibleInterface *AccessiblePanelList::interfaceOfRow(qsizetype row) const {
-  if (const auto made = m_interfaces.constFind(row); made != m_interfaces.cend()) {
-    return QAccessible::accessibleInterface(*made);
+  AccessiblePanelRow *&interface = m_interfaces[row];
+  if (interface == nullptr) {
+    interface = new AccessiblePanelRow(*this, row, identityOf(row));  // owned by Qt's cache
+    QAccessible::registerAccessibleInterface(interface);
   }
-  auto *made = new AccessiblePanelRow(*this, row);  // owned by Qt's cache from the next line on
-  m_interfaces.insert(row, QAccessible::registerAccessibleInterface(made));
-  return made;
+  return interface;
 }
 
 int AccessiblePanelList::childCount() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Views/Panel/AccessiblePanelRow.h"
+
 #include <QtCore/QHash>
 #include <QtCore/QList>
 #include <QtWidgets/QAccessibleWidget>
@@ -12,7 +14,9 @@ class PanelListView;
 
 /// The panel's list as a screen reader meets it: a tree with a branch for the recently opened items
 /// and one for each group, and the items below those. A row's interface is made when somebody asks
-/// for it and ends when the list's rows change; without a reader there is none.
+/// for it; without a reader there is none. When the rows change it goes along with what it stands
+/// for, so that a reader on its way to an item finds it after one more letter too, and ends with
+/// it.
 ///
 /// A tree rather than a list, because readers speak of a tree's branches whether they are unfolded,
 /// name the branch when the selection enters it, and count an item among its own ("2 of 5"), for
@@ -41,12 +45,14 @@ class AccessiblePanelList final : public QAccessibleWidget {
  private:
   /// The rows that are headers, from the top.
   const QList<qsizetype> &headers() const;
-  void dropRows();
+  AccessiblePanelRow::Identity identityOf(qsizetype row) const;
+  void followRows();
 
   PanelListView &m_view;
   QMetaObject::Connection m_resetConnection;
   mutable std::optional<QList<qsizetype>> m_headers;
-  mutable QHash<qsizetype, QAccessible::Id> m_interfaces;  // by row, of those asked for
+  /// By row, those that were asked for. Qt's cache owns them.
+  mutable QHash<qsizetype, AccessiblePanelRow *> m_interfaces;
 };
 
 }  // namespace lanternix

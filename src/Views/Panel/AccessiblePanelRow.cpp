@@ -54,8 +54,9 @@ QString itemDescription(const AppState &appState, const PathItem &item) {
 
 }  // namespace
 
-AccessiblePanelRow::AccessiblePanelRow(const AccessiblePanelList &list, qsizetype row)
-    : m_list(list), m_row(row) {}
+AccessiblePanelRow::AccessiblePanelRow(const AccessiblePanelList &list, qsizetype row,
+                                       const Identity &identity)
+    : m_list(list), m_row(row), m_identity(identity) {}
 
 PanelListView &AccessiblePanelRow::view() const {
   return m_list.view();

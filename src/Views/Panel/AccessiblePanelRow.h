@@ -1,5 +1,8 @@
 #pragma once
 
+#include "Views/Panel/PanelRow.h"
+
+#include <QtCore/QUuid>
 #include <QtGui/QAccessible>
 
 namespace lanternix {
@@ -7,7 +10,6 @@ namespace lanternix {
 class AccessiblePanelList;
 class PanelListModel;
 class PanelListView;
-struct PanelRow;
 
 /// One row of the panel's list for a screen reader. An item is heard by its name, then as
 /// "Directory, not found, ~/Projects"; a group by its name and "3 items", with its state. The rows
@@ -15,10 +17,25 @@ struct PanelRow;
 /// unfolds by an action. Lives no longer than the rows of the list stay as they are.
 class AccessiblePanelRow final : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
-  AccessiblePanelRow(const AccessiblePanelList &list, qsizetype row);
+  /// What a row stands for, whatever its place.
+  struct Identity {
+    PanelRow::Kind kind;
+    QUuid id;       // of the item or the group
+    bool isRecent;  // among the recently opened items, where an item may stand a second time
+
+    friend bool operator==(const Identity &, const Identity &) = default;
+    friend size_t qHash(const Identity &identity, size_t seed = 0) noexcept {
+      return qHashMulti(seed, static_cast<int>(identity.kind), identity.id, identity.isRecent);
+    }
+  };
+
+  AccessiblePanelRow(const AccessiblePanelList &list, qsizetype row, const Identity &identity);
+
+  const Identity &identity() const { return m_identity; }
 
   /// The place in the list's model.
   qsizetype row() const { return m_row; }
+  void setRow(qsizetype row) { m_row = row; }
 
   bool isValid() const override;
   QObject *object() const override { return nullptr; }
@@ -53,6 +70,7 @@ class AccessiblePanelRow final : public QAccessibleInterface, public QAccessible
 
   const AccessiblePanelList &m_list;
   qsizetype m_row;
+  Identity m_identity;
 };
 
 }  // namespace lanternix

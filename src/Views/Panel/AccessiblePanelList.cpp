@@ -16,8 +16,8 @@ bool isHeader(const PanelRow &row) {
   return row.kind == PanelRow::Kind::recentHeader || row.kind == PanelRow::Kind::groupHeader;
 }
 
-void end(AccessiblePanelRow *interface) {
-  QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(interface));
+AccessiblePanelRow *rowInterface(QAccessible::Id id) {
+  return static_cast<AccessiblePanelRow *>(QAccessible::accessibleInterface(id));
 }
 
 }  // namespace
@@ -30,26 +30,28 @@ AccessiblePanelList::AccessiblePanelList(PanelListView &view)
 
 AccessiblePanelList::~AccessiblePanelList() {
   QObject::disconnect(m_resetConnection);
-  for (AccessiblePanelRow *row : std::exchange(m_interfaces, {})) {
-    end(row);
+  for (const QAccessible::Id id : std::exchange(m_interfaces, {})) {
+    QAccessible::deleteAccessibleInterface(id);
   }
 }
 
 void AccessiblePanelList::followRows() {
   m_headers.reset();
-  QMultiHash<AccessiblePanelRow::Identity, AccessiblePanelRow *> left;
-  for (AccessiblePanelRow *interface : std::exchange(m_interfaces, {})) {
-    left.insert(interface->identity(), interface);
+  QMultiHash<AccessiblePanelRow::Identity, QAccessible::Id> left;
+  for (const QAccessible::Id id : std::exchange(m_interfaces, {})) {
+    if (const AccessiblePanelRow *interface = rowInterface(id)) {
+      left.insert(interface->identity(), id);
+    }
   }
   const qsizetype count = m_view.model().rows().size();
   for (qsizetype row = 0; row < count && !left.isEmpty(); ++row) {
-    if (AccessiblePanelRow *moved = left.take(identityOf(row))) {
-      moved->setRow(row);
-      m_interfaces.insert(row, moved);
+    if (const QAccessible::Id id = left.take(identityOf(row))) {
+      rowInterface(id)->setRow(row);
+      m_interfaces.insert(row, id);
     }
   }
-  for (AccessiblePanelRow *gone : std::as_const(left)) {
-    end(gone);
+  for (const QAccessible::Id gone : std::as_const(left)) {
+    QAccessible::deleteAccessibleInterface(gone);
   }
 }
 
@@ -92,11 +94,11 @@ qsizetype AccessiblePanelList::rowsBelow(qsizetype header) const {
 }
 
 QAccessibleInterface *AccessiblePanelList::interfaceOfRow(qsizetype row) const {
-  AccessiblePanelRow *&interface = m_interfaces[row];
-  if (interface == nullptr) {
-    interface = new AccessiblePanelRow(*this, row, identityOf(row));  // owned by Qt's cache
-    QAccessible::registerAccessibleInterface(interface);
+  if (const auto made = m_interfaces.constFind(row); made != m_interfaces.cend()) {
+    return rowInterface(*made);
   }
+  auto *interface = new AccessiblePanelRow(*this, row, identityOf(row));  // owned by Qt's cache
+  m_interfaces.insert(row, QAccessible::registerAccessibleInterface(interface));
   return interface;
 }
 

@@ -51,8 +51,8 @@ class AccessiblePanelList final : public QAccessibleWidget {
   PanelListView &m_view;
   QMetaObject::Connection m_resetConnection;
   mutable std::optional<QList<qsizetype>> m_headers;
-  /// By row, those that were asked for. Qt's cache owns them.
-  mutable QHash<qsizetype, AccessiblePanelRow *> m_interfaces;
+  /// By row, those that were asked for; ids, because Qt's cache may end before the list does.
+  mutable QHash<qsizetype, QAccessible::Id> m_interfaces;
 };
 
 }  // namespace lanternix

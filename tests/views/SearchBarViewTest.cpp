@@ -20,6 +20,7 @@ class SearchBarViewTest : public ViewTest {
     field = view->findChild<QLineEdit *>();
     clearButton = view->findChild<SymbolButton *>();
     view->show();
+    state->setPanelVisible(true);
   }
 
   /// What an input method sends while something is being composed.
@@ -119,9 +120,10 @@ TEST_F(SearchBarViewTest, AHiddenField_GivesUpWhatIsBeingComposed) {
 
 TEST_F(SearchBarViewTest, WhatIsComposedTooLate_IsNotTypedIntoTheNextSearch) {
   compose(QStringLiteral("rep"));
-  view->hide();
-  commit(QStringLiteral("rep"));
+  state->onHide = [this] { commit(QStringLiteral("rep")); };
+  state->hidePanel();
   EXPECT_EQ(state->searchQuery(), QString());
+  EXPECT_EQ(field->text(), QString());
 }
 
 TEST_F(SearchBarViewTest, TheClearButton_GivesUpWhatIsBeingComposed) {

@@ -64,9 +64,8 @@ void SearchBarView::readQuery() {
 }
 
 void SearchBarView::abandonComposition() {
-  if (m_field->hasFocus()) {
-    QGuiApplication::inputMethod()->reset();
-  }
+  // Whether or not the field still has the focus, which a window that is hidden loses first.
+  QGuiApplication::inputMethod()->reset();
   // Input methods forget what they compose without taking it off the field.
   QInputMethodEvent nothing;
   QCoreApplication::sendEvent(m_field, &nothing);
@@ -77,11 +76,11 @@ void SearchBarView::hideEvent(QHideEvent * /*event*/) {
 }
 
 bool SearchBarView::eventFilter(QObject * /*watched*/, QEvent *event) {
-  if (event->type() != QEvent::InputMethod || m_field->isVisible()) {
+  if (event->type() != QEvent::InputMethod || m_appState.isPanelVisible()) {
     return false;
   }
-  // Some input methods hand over what they were composing when the window loses the keyboard. It
-  // must not be typed into the next search.
+  // Some input methods hand over what they were composing when the panel is hidden and the field
+  // loses the keyboard. It must not be typed into the next search.
   const auto *input = static_cast<QInputMethodEvent *>(event);
   return !input->commitString().isEmpty() || !input->preeditString().isEmpty();
 }

@@ -5,6 +5,7 @@
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/WindowSystem.h"
+#include "Views/Panel/PanelAccessibility.h"
 #include "Views/Style/ApplicationIcon.h"
 #include "Views/Style/LanternixStyle.h"
 
@@ -46,6 +47,7 @@ int LanternixApp::run(int argc, char **argv) {
   const QApplication application(count, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(applicationIcon());
+  PanelAccessibility::install();
 
   const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
   if (!instance->claim()) {

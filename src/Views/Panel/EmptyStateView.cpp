@@ -1,5 +1,6 @@
 #include "Views/Panel/EmptyStateView.h"
 
+#include "Views/Panel/PanelAccessibility.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SymbolLabel.h"
 #include "Views/Style/TextLabel.h"
@@ -14,6 +15,8 @@ namespace lanternix {
 
 EmptyStateView::EmptyStateView(QWidget *parent)
     : QWidget(parent), m_button(new QPushButton(u"Open Settings"_s, this)) {
+  setAccessibleName(u"No items yet"_s);
+  setAccessibleDescription(u"Open Settings to add groups and items"_s);
   constexpr double markSide = 44;
   auto *mark = new SymbolLabel(
       u"arrow.triangle.branch"_s, markSide,
@@ -40,6 +43,7 @@ EmptyStateView::EmptyStateView(QWidget *parent)
   layout->addLayout(texts);
   layout->addWidget(m_button, 0, Qt::AlignHCenter);
   layout->addStretch();
+  PanelAccessibility::readInOrderOf(*layout);
 }
 
 void EmptyStateView::updateButton() {

@@ -21,6 +21,9 @@ class PanelListView : public QAbstractScrollArea {
  public:
   PanelListView(AppState &appState, PanelListModel &model, QWidget *parent = nullptr);
 
+  AppState &appState() const { return m_appState; }
+  PanelListModel &model() const { return m_model; }
+
   /// Where a row is drawn, in viewport coordinates; it may lie outside the viewport.
   QRect rowRect(qsizetype row) const;
   /// The row at a viewport position, or -1.

@@ -147,6 +147,18 @@ TEST_F(AccessibilityTest, ThePanelThatIsShownAgain_StartsInTheField) {
   EXPECT_EQ(heard(u"selected"_s, 0) + heard(u"selected"_s, 1), 0) << "of a hidden list";
 }
 
+TEST_F(AccessibilityTest, ThePanelThatIsShownAgainAtOnce_HasTheKeyboardInTheField) {
+  startWithTwo();
+  const AccessibilityBus::Node field = reader.find(panel, u"text"_s, u"Search"_s);
+  ASSERT_TRUE(waitUntil([&] { return reader.has(field, State::focused); }));
+  // Sooner than the toolkit believes that the keyboard has gone.
+  pressShortcut();
+  pressShortcut();
+  program().settle();
+  EXPECT_TRUE(waitUntil([&] { return reader.has(field, State::focused); }));
+  EXPECT_TRUE(waitUntil([&] { return reader.has(panel, State::active); }));
+}
+
 TEST_F(AccessibilityTest, AReader_FoldsAGroup) {
   startWithTwo();
   reader.act(row(u"Commands"_s));

@@ -1,5 +1,6 @@
 #include "Utilities/FloatingPanel.h"
 
+#include "Platform/RoundedRegion.h"
 #include "Platform/WindowSystem.h"
 #include "Utilities/PanelShadow.h"
 #include "Utilities/WindowEdgeResizer.h"
@@ -7,9 +8,8 @@
 #include <QtGui/QCloseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QWindow>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -21,19 +21,6 @@ namespace {
 constexpr QSize initialSize{700, 500};
 constexpr QSize smallestSize{400, 300};
 constexpr int cornerRadius = 12;
-
-/// \p area without what lies outside its rounded corners.
-QRegion roundedRegion(const QRect &area, int radius) {
-  QRegion region(area.adjusted(0, radius, 0, -radius));
-  for (int line = 0; line < radius; ++line) {
-    const double fromCentre = radius - line - 0.5;
-    const int inset = qRound(radius - std::sqrt(radius * radius - fromCentre * fromCentre));
-    const QRect top(area.left() + inset, area.top() + line, area.width() - 2 * inset, 1);
-    region += top;
-    region += top.translated(0, area.height() - 1 - 2 * line);
-  }
-  return region;
-}
 
 }  // namespace
 
@@ -77,6 +64,11 @@ void FloatingPanel::makeKeyAndOrderFront() {
   }
   show();
   m_windowSystem.activate(*windowHandle());
+  // Shown again this soon after hiding, Qt still takes the window for the one with the keyboard and
+  // will not notice that it comes back: the widget has to be told here.
+  if (QGuiApplication::focusWindow() == windowHandle() && !isActiveWindow()) {
+    QApplication::setActiveWindow(this);
+  }
 }
 
 void FloatingPanel::orderOut() {

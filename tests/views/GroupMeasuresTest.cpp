@@ -68,7 +68,7 @@ class GroupMeasuresTest : public MeasuresTest {
       painter.setBrush(fill(FillStyle::quaternary));
       painter.drawRoundedRect(shape, countHeight() / 2, countHeight() / 2);
       painter.setFont(countFont());
-      painter.setPen(fill(FillStyle::secondary));
+      painter.setPen(fillOn(laid(fill(FillStyle::quaternary)), FillStyle::secondary));
       painter.drawText(shape, Qt::AlignCenter, count);
     });
   }

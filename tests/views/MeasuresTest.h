@@ -78,6 +78,10 @@ class MeasuresTest : public ViewTest, public testing::WithParamInterface<Look> {
 
   QColor ground() const { return palette.color(QPalette::Window); }
   QColor fill(FillStyle style) const { return fillColor(style, palette); }
+  /// The same for text on a shape that has \p below in place of the panel's ground.
+  QColor fillOn(const QColor &below, FillStyle style) const {
+    return fillColor(style, palette, below);
+  }
   /// The light or the dark value, whichever is on show.
   QColor either(QRgb light, QRgb dark) const { return QColor(GetParam().isDark ? dark : light); }
   QColor blue() const { return either(0x007AFF, 0x0A84FF); }

@@ -3,7 +3,7 @@
 #include "Views/Panel/PanelHeaderView.h"
 #include "Views/Panel/ScopeBadgeView.h"
 #include "Views/Panel/SearchBarView.h"
-#include "Views/Style/DividerLine.h"
+#include "Views/Style/Contrast.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/TextLabel.h"
 #include "views/MeasuresTest.h"
@@ -46,9 +46,10 @@ class PanelMeasuresTest : public MeasuresTest {
       painter.setPen(Qt::NoPen);
       painter.setBrush(fill(FillStyle::quaternary));
       painter.drawRoundedRect(cap, 3, 3);
-      painter.setPen(fill(FillStyle::tertiary));
+      painter.setPen(fillOn(laid(fill(FillStyle::quaternary)), FillStyle::tertiary));
       painter.setFont(keyFont);
       painter.drawText(cap, Qt::AlignCenter, key);
+      painter.setPen(fill(FillStyle::tertiary));
       painter.setFont(font(0.77));
       painter.drawText(QRectF(cap.right() + 4, area.top(), width, area.height()),
                        Qt::AlignLeft | Qt::AlignVCenter, word);
@@ -183,18 +184,20 @@ TEST_P(PanelMeasuresTest, TheScope_StandsOnABlueCapsuleBeforeTheCount) {
   state->setSearchQuery(QStringLiteral("work:"));
   const QString names = QStringLiteral("Work, Home work");
   const double side = sideIn(0.77);
+  const QColor capsule = laid(blue(), 0.15);
+  const QColor text = Contrast::readableOn(capsule, blue());
   const QRectF badge = place(part<ScopeBadgeView>());
   EXPECT_EQ(badge.right(), place(count()).left() - 16);
   EXPECT_EQ(badge.height(), std::ceil(heightOf(font(0.77)) + 2 * 2));
   EXPECT_EQ(badge.width(), std::ceil(6 + side + 4 + widthOf(names, font(0.77)) + 6));
   EXPECT_TRUE(picture().shows(badge.adjusted(-4, 0, 4, 0), ground(), [&](QPainter &painter) {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(laid(blue(), 0.15));
+    painter.setBrush(capsule);
     painter.drawRoundedRect(badge, badge.height() / 2, badge.height() / 2);
     Symbol::draw(painter, {badge.left() + 6, badge.top(), side, badge.height()},
-                 QStringLiteral("scope"), side, blue());
+                 QStringLiteral("scope"), side, text);
     painter.setFont(font(0.77));
-    painter.setPen(blue());
+    painter.setPen(text);
     painter.drawText(badge.adjusted(6 + side + 4, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
                      names);
   }));

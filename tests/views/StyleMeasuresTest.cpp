@@ -66,9 +66,9 @@ TEST_P(StyleMeasuresTest, TheAccentColour_IsBlueUntilTheDesktopHasAnother) {
 
 TEST_P(StyleMeasuresTest, EveryTextStyle_IsARatioOfTheUsersFont) {
   const std::initializer_list<std::pair<TextStyle, double>> ratios{
-      {TextStyle::title, 1.69},       {TextStyle::title2, 1.31},  {TextStyle::title3, 1.15},
-      {TextStyle::body, 1},           {TextStyle::caption, 0.77}, {TextStyle::caption2, 0.77},
-      {TextStyle::subheadline, 0.85},
+      {TextStyle::largeTitle, 2},  {TextStyle::title, 1.69},       {TextStyle::title2, 1.31},
+      {TextStyle::title3, 1.15},   {TextStyle::body, 1},           {TextStyle::caption, 0.77},
+      {TextStyle::caption2, 0.77}, {TextStyle::subheadline, 0.85},
   };
   for (const double points : {10.0, 13.5}) {
     setUserFont(points);

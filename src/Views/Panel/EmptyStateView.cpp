@@ -1,5 +1,6 @@
 #include "Views/Panel/EmptyStateView.h"
 
+#include "Views/Panel/PanelAccessibility.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SymbolLabel.h"
 #include "Views/Style/TextLabel.h"
@@ -14,6 +15,8 @@ namespace lanternix {
 
 EmptyStateView::EmptyStateView(QWidget *parent)
     : QWidget(parent), m_button(new QPushButton(u"Open Settings"_s, this)) {
+  setAccessibleName(u"No items yet"_s);
+  setAccessibleDescription(u"Open Settings to add groups and items"_s);
   constexpr double markSide = 44;
   auto *mark = new SymbolLabel(
       u"arrow.triangle.branch"_s, markSide,
@@ -22,12 +25,9 @@ EmptyStateView::EmptyStateView(QWidget *parent)
                               FillStyle::secondary, this);
   auto *hint = new TextLabel(u"Open Settings to add groups and items"_s, TextStyle::subheadline,
                              QFont::Normal, FillStyle::tertiary, this);
-  updateFont();
-  m_button->setIcon(QPixmap::fromImage(Symbol::image(u"gearshape"_s, m_button->iconSize().width(),
-                                                     palette().color(QPalette::ButtonText),
-                                                     devicePixelRatioF())));
   m_button->setDefault(true);
   m_button->setFocusPolicy(Qt::TabFocus);
+  updateButton();
   connect(m_button, &QAbstractButton::clicked, this, &EmptyStateView::settingsRequested);
 
   auto *texts = new QVBoxLayout;
@@ -43,15 +43,19 @@ EmptyStateView::EmptyStateView(QWidget *parent)
   layout->addLayout(texts);
   layout->addWidget(m_button, 0, Qt::AlignHCenter);
   layout->addStretch();
+  PanelAccessibility::readInOrderOf(*layout);
 }
 
-void EmptyStateView::updateFont() {
+void EmptyStateView::updateButton() {
   m_button->setFont(textFont(TextStyle::subheadline, QFont::Medium));
+  m_button->setIcon(QPixmap::fromImage(Symbol::image(u"gearshape"_s, m_button->iconSize().width(),
+                                                     palette().color(QPalette::ButtonText),
+                                                     devicePixelRatioF())));
 }
 
 void EmptyStateView::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::FontChange) {
-    updateFont();
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) {
+    updateButton();
   }
   QWidget::changeEvent(event);
 }

@@ -20,7 +20,7 @@ class EmptyStateView : public QWidget {
   void changeEvent(QEvent *event) override;
 
  private:
-  void updateFont();
+  void updateButton();
 
   QPushButton *m_button;
 };

@@ -1,5 +1,6 @@
 #include "Views/Style/MenuDrawing.h"
 
+#include "Platform/RoundedRegion.h"
 #include "Views/Style/AccentFill.h"
 #include "Views/Style/Contrast.h"
 #include "Views/Style/FillStyle.h"
@@ -7,7 +8,6 @@
 #include "Views/Style/SystemColors.h"
 
 #include <QtGui/QPainter>
-#include <QtGui/QPainterPath>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QStyleOptionMenuItem>
 
@@ -131,9 +131,7 @@ QSize itemSize(const QStyleOptionMenuItem &option, const QSize &contents) {
 }
 
 QRegion panelRegion(const QRect &area) {
-  QPainterPath outline;
-  outline.addRoundedRect(area, panelRadius, panelRadius);
-  return QRegion(outline.toFillPolygon().toPolygon());
+  return roundedRegion(area, panelRadius);
 }
 
 }  // namespace lanternix::MenuDrawing

@@ -8,12 +8,7 @@
 
 namespace lanternix {
 
-SymbolLabel::SymbolLabel(QString symbol, double side, Tint tint, QWidget *parent)
-    : QWidget(parent), m_symbol(std::move(symbol)), m_size(side), m_tint(std::move(tint)) {
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-}
-
-SymbolLabel::SymbolLabel(QString symbol, TextStyle size, Tint tint, QWidget *parent)
+SymbolLabel::SymbolLabel(QString symbol, Size size, Tint tint, QWidget *parent)
     : QWidget(parent), m_symbol(std::move(symbol)), m_size(size), m_tint(std::move(tint)) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
@@ -24,7 +19,8 @@ double SymbolLabel::side() const {
 }
 
 QSize SymbolLabel::sizeHint() const {
-  return {qCeil(side()), qCeil(side())};
+  const int extent = qCeil(side());
+  return {extent, extent};
 }
 
 void SymbolLabel::paintEvent(QPaintEvent * /*event*/) {

@@ -18,10 +18,11 @@ class SymbolLabel : public QWidget {
   /// the desktop's appearance.
   using Tint = std::function<QColor(const QPalette &)>;
 
-  /// \p side in logical pixels.
-  SymbolLabel(QString symbol, double side, Tint tint, QWidget *parent = nullptr);
-  /// As large as stands well beside text in \p size; follows changes of the user's font.
-  SymbolLabel(QString symbol, TextStyle size, Tint tint, QWidget *parent = nullptr);
+  /// Either a side in logical pixels, or the style of the text that the symbol goes with; then it
+  /// follows changes of the user's font.
+  using Size = std::variant<double, TextStyle>;
+
+  SymbolLabel(QString symbol, Size size, Tint tint, QWidget *parent = nullptr);
 
   QSize sizeHint() const override;
 
@@ -32,7 +33,7 @@ class SymbolLabel : public QWidget {
   double side() const;
 
   QString m_symbol;
-  std::variant<double, TextStyle> m_size;
+  Size m_size;
   Tint m_tint;
 };
 

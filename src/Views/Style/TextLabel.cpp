@@ -1,6 +1,6 @@
 #include "Views/Style/TextLabel.h"
 
-#include <QtGui/QFontMetricsF>
+#include <QtCore/QEvent>
 #include <QtGui/QPainter>
 
 namespace lanternix {
@@ -9,29 +9,47 @@ TextLabel::TextLabel(const QString &text, TextStyle style, QFont::Weight weight,
                      QWidget *parent)
     : QLabel(text, parent), m_style(style), m_weight(weight), m_fill(fill) {
   setTextFormat(Qt::PlainText);
+  updateFont();
+  watchParent();
 }
 
-// Not set as the widget's own font: a widget that has one hears nothing of changes of the user's.
-QFont TextLabel::lineFont() const {
-  return textFont(m_style, m_weight);
+void TextLabel::updateFont() {
+  setFont(textFont(m_style, m_weight));
 }
 
-QSize TextLabel::sizeHint() const {
-  const QFontMetricsF metrics(lineFont());
-  return {qCeil(metrics.horizontalAdvance(text())), qCeil(metrics.height())};
+// A widget with a size of text of its own is not told of another size of the user's font; its
+// parent, which has none, is.
+void TextLabel::watchParent() {
+  if (m_watchedParent != nullptr) {
+    m_watchedParent->removeEventFilter(this);
+  }
+  m_watchedParent = parentWidget();
+  if (m_watchedParent != nullptr) {
+    m_watchedParent->installEventFilter(this);
+  }
 }
 
-QSize TextLabel::minimumSizeHint() const {
-  return sizeHint();
+bool TextLabel::eventFilter(QObject * /*watched*/, QEvent *event) {
+  if (event->type() == QEvent::FontChange) {
+    updateFont();
+  }
+  return false;
+}
+
+void TextLabel::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::ApplicationFontChange) {
+    updateFont();
+  } else if (event->type() == QEvent::ParentChange) {
+    watchParent();
+  }
+  QLabel::changeEvent(event);
 }
 
 void TextLabel::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
-  painter.setFont(lineFont());
   painter.setPen(fillColor(m_fill, palette()));
-  painter.drawText(
-      contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
-      QFontMetricsF(lineFont()).elidedText(text(), Qt::ElideRight, contentsRect().width()));
+  painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
+                   fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()));
 }
 
 }  // namespace lanternix

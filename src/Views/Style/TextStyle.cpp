@@ -8,6 +8,8 @@ namespace {
 
 double ratio(TextStyle style) {
   switch (style) {
+    case TextStyle::largeTitle:
+      return 2;
     case TextStyle::title:
       return 1.69;
     case TextStyle::title2:

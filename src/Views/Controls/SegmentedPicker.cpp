@@ -1,0 +1,95 @@
+#include "Views/Controls/SegmentedPicker.h"
+
+#include "Views/Style/FillStyle.h"
+#include "Views/Style/SystemColors.h"
+#include "Views/Style/TextStyle.h"
+
+#include <QtGui/QPainter>
+#include <QtWidgets/QButtonGroup>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QRadioButton>
+
+namespace lanternix {
+
+namespace {
+
+constexpr double radius = 6;
+constexpr int inset = 2;
+constexpr int linePadding = 4;
+
+/// One of the choices. A radio button, so that keys and screen readers take it for what it is.
+class Segment : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+
+  QSize sizeHint() const override {
+    constexpr int sidePadding = 10;
+    return fontMetrics().size(Qt::TextHideMnemonic, text()) +
+           QSize(2 * sidePadding, 2 * linePadding);
+  }
+
+ protected:
+  bool hitButton(const QPoint &position) const override { return rect().contains(position); }
+
+  void paintEvent(QPaintEvent * /*event*/) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF shape = QRectF(rect()).adjusted(inset, inset, -inset, -inset);
+    if (isChecked()) {
+      painter.setPen(QPen(fillColor(FillStyle::quaternary, palette()), 1));
+      painter.setBrush(isDark(palette()) ? fillColor(FillStyle::quaternary, palette())
+                                         : palette().color(QPalette::Base));
+      painter.drawRoundedRect(shape, radius - inset, radius - inset);
+    }
+    if (hasFocus()) {
+      constexpr float ringOpacity = 0.5F;
+      painter.setPen(QPen(withOpacity(accentColor(palette()), ringOpacity), 2));
+      painter.setBrush(Qt::NoBrush);
+      painter.drawRoundedRect(shape, radius - inset, radius - inset);
+    }
+    painter.setPen(fillColor(FillStyle::primary, palette()));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextHideMnemonic, text());
+  }
+};
+
+}  // namespace
+
+SegmentedPicker::SegmentedPicker(const QString &name, const QStringList &texts, QWidget *parent)
+    : QWidget(parent), m_buttons(new QButtonGroup(this)) {
+  setAccessibleName(name);
+  auto *layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  for (const QString &text : texts) {
+    auto *segment = new Segment(text, this);
+    segment->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_buttons->addButton(segment, static_cast<int>(m_buttons->buttons().size()));
+    layout->addWidget(segment, 1);
+  }
+  connect(m_buttons, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
+    if (checked) {
+      Q_EMIT currentIndexChanged(id);
+    }
+  });
+}
+
+int SegmentedPicker::currentIndex() const {
+  return m_buttons->checkedId();
+}
+
+void SegmentedPicker::setCurrentIndex(int index) {
+  if (QAbstractButton *button = m_buttons->button(index)) {
+    const QSignalBlocker blocker(this);
+    button->setChecked(true);
+  }
+}
+
+void SegmentedPicker::paintEvent(QPaintEvent * /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(fillColor(FillStyle::quaternary, palette()));
+  painter.drawRoundedRect(rect(), radius, radius);
+}
+
+}  // namespace lanternix

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QtWidgets/QDialog>
+
+class QPushButton;
+class QVBoxLayout;
+
+namespace lanternix {
+
+/// An editor over a window, which waits until it is done: a title, a form, and a bar with "Cancel"
+/// (Escape) and a confirming button (Return).
+class SheetDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// \p size is that of the whole sheet, in logical pixels.
+  SheetDialog(const QString &title, const QString &confirmation, QSize size, QWidget *window);
+
+ Q_SIGNALS:
+  /// The confirming button. Whoever saves closes the sheet with accept().
+  void confirmed();
+
+ protected:
+  /// Where the form goes, between the title and the bar.
+  QVBoxLayout &content() { return *m_content; }
+  void setConfirmable(bool confirmable);
+
+ private:
+  QVBoxLayout *m_content;
+  QPushButton *m_confirm;
+};
+
+}  // namespace lanternix

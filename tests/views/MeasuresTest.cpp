@@ -11,28 +11,33 @@ namespace lanternix {
 
 namespace {
 
-void setMotionReduced(bool reduced) {
-  qobject_cast<LanternixStyle *>(QApplication::style())->setMotionReduced(reduced);
+void useFreshStyle(bool isMotionReduced) {
+  auto style = std::make_unique<LanternixStyle>();
+  style->setMotionReduced(isMotionReduced);
+  QApplication::setStyle(style.release());  // owned by the application
 }
 
 }  // namespace
 
+std::ostream &operator<<(std::ostream &stream, const Look &look) {
+  const QString size = rawValue(look.size);
+  return stream << (look.isDark ? "Dark" : "Light") << size.left(1).toUpper().toStdString()
+                << size.mid(1).toStdString();
+}
+
 std::string nameOfLook(const testing::TestParamInfo<Look> &info) {
-  const QString size = rawValue(info.param.size);
-  const QString name =
-      QLatin1String(info.param.isDark ? "Dark" : "Light") + size.at(0).toUpper() + size.mid(1);
-  return name.toStdString();
+  return testing::PrintToString(info.param);
 }
 
 MeasuresTest::MeasuresTest()
     : palette(GetParam().isDark ? Palettes::dark() : Palettes::light()),
       m_previousPalette(QApplication::palette()) {
   QApplication::setPalette(palette);
-  setMotionReduced(true);  // every highlight is there at once
+  useFreshStyle(true);  // every highlight is there at once
 }
 
 MeasuresTest::~MeasuresTest() {
-  setMotionReduced(false);
+  useFreshStyle(false);
   QApplication::setPalette(m_previousPalette);
 }
 

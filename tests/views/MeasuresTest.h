@@ -8,6 +8,7 @@
 
 #include <QtGui/QPalette>
 
+#include <iosfwd>
 #include <memory>
 #include <string>
 
@@ -17,6 +18,8 @@ namespace lanternix {
 struct Look {
   bool isDark = false;
   PanelItemSize size = PanelItemSize::medium;
+
+  friend std::ostream &operator<<(std::ostream &stream, const Look &look);
 };
 
 /// The name of a look in those of tests, such as DarkSmall.

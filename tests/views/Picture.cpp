@@ -13,7 +13,7 @@ namespace lanternix {
 namespace {
 
 bool isAlike(QRgb one, QRgb other) {
-  constexpr int tolerance = 2;  // what blending rounds
+  constexpr int tolerance = 1;  // what blending rounds
   return std::abs(qRed(one) - qRed(other)) <= tolerance &&
          std::abs(qGreen(one) - qGreen(other)) <= tolerance &&
          std::abs(qBlue(one) - qBlue(other)) <= tolerance &&

@@ -61,6 +61,12 @@ TEST_P(MessageMeasuresTest, TheEmptyState_IsSetOffFromTheTop) {
   EXPECT_TRUE(showsMark("arrow.triangle.branch", 44, view.top() + 20));
 }
 
+TEST_P(MessageMeasuresTest, TheEmptyState_StaysAtTheTopOfATallPanel) {
+  show({}, {});
+  panel->resize(700, 1000);
+  EXPECT_TRUE(showsMark("arrow.triangle.branch", 44, place(part<EmptyStateView>()).top() + 20));
+}
+
 TEST_P(MessageMeasuresTest, TheEmptyState_SaysSo) {
   show({}, {});
   EXPECT_TRUE(showsCentred(noItems, font(1.15, QFont::Medium), FillStyle::secondary));

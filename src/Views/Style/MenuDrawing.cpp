@@ -4,6 +4,7 @@
 #include "Views/Style/AccentFill.h"
 #include "Views/Style/Contrast.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/PixelGrid.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
 
@@ -87,7 +88,8 @@ void drawItem(QPainter &painter, const QStyleOptionMenuItem &option, const QWidg
   if (option.menuItemType == QStyleOptionMenuItem::Separator) {
     const QRectF line(option.rect.left() + sidePadding, option.rect.center().y(),
                       option.rect.width() - 2 * sidePadding, 1);
-    painter.fillRect(line, fillColor(FillStyle::quaternary, option.palette));
+    painter.fillRect(PixelGrid::snappedLine(painter, line),
+                     fillColor(FillStyle::quaternary, option.palette));
     painter.restore();
     return;
   }

@@ -1,6 +1,5 @@
 #include "Utilities/FloatingPanel.h"
 
-#include "Platform/RoundedRegion.h"
 #include "Platform/WindowSystem.h"
 #include "Utilities/PanelShadow.h"
 #include "Utilities/WindowEdgeResizer.h"
@@ -46,6 +45,7 @@ FloatingPanel::FloatingPanel(WindowSystem &windowSystem)
   connect(m_edgeResizer.get(), &WindowEdgeResizer::finished, this,
           &FloatingPanel::didEndLiveResize);
   windowHandle()->installEventFilter(this);
+  connect(windowHandle(), &QWindow::screenChanged, this, &FloatingPanel::updateShape);
   connect(&windowSystem, &WindowSystem::compositingChanged, this,
           &FloatingPanel::updateCompositing);
   updateCompositing();
@@ -60,6 +60,7 @@ void FloatingPanel::setContentView(std::unique_ptr<QWidget> content) {
 void FloatingPanel::makeKeyAndOrderFront() {
   if (!isVisible()) {
     m_hasBeenSeen = false;
+    updateShape();  // the screen may have another scale now
     m_windowSystem.preparePanel(*windowHandle());
   }
   show();
@@ -115,7 +116,10 @@ void FloatingPanel::paintEvent(QPaintEvent *event) {
     QMetaObject::invokeMethod(this, &FloatingPanel::confirmPlace, Qt::QueuedConnection);
   }
   const QRect inner = contentsRect();
-  if (testAttribute(Qt::WA_TranslucentBackground) && !inner.contains(event->rect())) {
+  const bool isClearOfCorners =
+      inner.adjusted(cornerRadius, 0, -cornerRadius, 0).contains(event->rect()) ||
+      inner.adjusted(0, cornerRadius, 0, -cornerRadius).contains(event->rect());
+  if (testAttribute(Qt::WA_TranslucentBackground) && !isClearOfCorners) {
     QPainter painter(this);
     PanelShadow::paint(painter, inner, cornerRadius);
   }
@@ -153,11 +157,6 @@ void FloatingPanel::updateCompositing() {
 }
 
 void FloatingPanel::updateShape() {
-  if (testAttribute(Qt::WA_TranslucentBackground)) {
-    clearMask();
-  } else {
-    setMask(roundedRegion(rect(), cornerRadius));
-  }
   m_windowSystem.setFrame(
       *windowHandle(),
       {.size = frame().size(), .cornerRadius = cornerRadius, .shadow = contentsMargins()});

@@ -107,11 +107,28 @@ void X11Compositor::setFrame(xcb_window_t window, const WindowSystem::Frame &fra
     setNumbers(window, m_atoms[blurBehind], outline(frame));
   }
   if (hasExtension(m_server, xcb_shape_id)) {
-    const xcb_rectangle_t taken{
-        static_cast<qint16>(shadow.left()), static_cast<qint16>(shadow.top()),
-        static_cast<quint16>(frame.size.width()), static_cast<quint16>(frame.size.height())};
-    xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
-                         XCB_CLIP_ORDERING_UNSORTED, window, 0, 0, 1, &taken);
+    setShape(window, frame);
+  }
+}
+
+void X11Compositor::setShape(xcb_window_t window, const WindowSystem::Frame &frame) {
+  xcb_connection_t *connection = m_server.connection();
+  const QRect area(QPoint(frame.shadow.left(), frame.shadow.top()), frame.size);
+  const auto set = [&](xcb_shape_kind_t kind, const QRegion &region) {
+    std::vector<xcb_rectangle_t> parts;
+    for (const QRect &part : region) {
+      parts.push_back({static_cast<qint16>(part.left()), static_cast<qint16>(part.top()),
+                       static_cast<quint16>(part.width()), static_cast<quint16>(part.height())});
+    }
+    xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0,
+                         0, static_cast<quint32>(parts.size()), parts.data());
+  };
+  set(XCB_SHAPE_SK_INPUT, area);
+  if (frame.shadow.isNull()) {
+    set(XCB_SHAPE_SK_BOUNDING, roundedRegion(area, frame.cornerRadius));
+  } else {
+    xcb_shape_mask(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window, 0, 0,
+                   XCB_PIXMAP_NONE);
   }
 }
 

@@ -70,6 +70,10 @@ PictureWatch::Times PictureWatch::timesAfter(const std::function<void()> &event)
       std::copy(from, from + drawing.area.width(), to);
     }
     const Duration sinceStart = drawing.time - start;
+    constexpr Duration withinAFrame{4};
+    if (times.frames.empty() || sinceStart - times.frames.back() > withinAFrame) {
+      times.frames.push_back(sinceStart);
+    }
     if (!times.firstPicture.has_value() && hasContent(m_picture)) {
       times.firstPicture = sinceStart;
     }
@@ -78,6 +82,14 @@ PictureWatch::Times PictureWatch::timesAfter(const std::function<void()> &event)
     }
   }
   return times;
+}
+
+std::optional<PictureWatch::Duration> PictureWatch::Times::longestGap() const {
+  std::optional<Duration> longest;
+  for (std::size_t frame = 1; frame < frames.size(); ++frame) {
+    longest = std::max(longest.value_or(Duration{0}), frames[frame] - frames[frame - 1]);
+  }
+  return longest;
 }
 
 std::optional<PictureWatch::Duration> PictureWatch::timeToUnmapped(

@@ -27,6 +27,11 @@ class PictureWatch {
     std::optional<Duration> firstPicture;
     /// From the event to the last drawing that changed a pixel.
     std::optional<Duration> settled;
+    /// From the event to each frame: drawings that follow one another within 4 ms count as one.
+    std::vector<Duration> frames;
+
+    /// The longest time between one frame and the next; none with fewer than two.
+    std::optional<Duration> longestGap() const;
   };
 
   PictureWatch(const QString &displayName, xcb_window_t window);

@@ -18,6 +18,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+/// A place on the first row of the list, from the panel's corner.
+constexpr QPoint firstRow{60, 120};
 constexpr quint16 commandAndShift = XCB_MOD_MASK_4 | XCB_MOD_MASK_SHIFT;
 
 void addIfAny(Series &series, const std::optional<PictureWatch::Duration> &duration,
@@ -40,6 +42,32 @@ WholeProgramFigures PressToPicture::measureProgram(const QByteArray &dataFile) {
   program.waitForPanel();
   measurePresses(session, program.panel(), figures);
   measureRest(program.processId(), figures);
+  measureWheel(session, program.panel(), figures);
+  measureWakeUpsWhileShown(session, program, figures);
+  return figures;
+}
+
+WholeProgramFigures PressToPicture::measureFolding(const QByteArray &dataFile) {
+  DesktopSession session;
+  ProgramEnvironment::write(session.home().dataFile(), dataFile);
+  Program program(session);
+  program.waitForPanel();
+  PictureWatch watch(session.displayName(), program.panel());
+  const QPoint header = session.windows().geometry(program.panel()).topLeft() + firstRow;
+  session.input().moveTo(header);
+  watch.waitForQuiet();
+
+  WholeProgramFigures figures;
+  for (int folding = 0; folding < m_effort.foldings; ++folding) {
+    const auto before = ProcessFigures::processorTime(program.processId());
+    const auto times = watch.timesAfter([&] { session.input().click(header); });
+    const auto spent = ProcessFigures::processorTime(program.processId()) - before;
+    const bool unfolds = folding % 2 == 0;
+    if (unfolds && times.longestGap().has_value()) {
+      figures.longestGapWhileUnfolding.add(*times.longestGap());
+      figures.processorTimePerFrame.add(spent / static_cast<double>(times.frames.size()));
+    }
+  }
   return figures;
 }
 
@@ -115,6 +143,34 @@ void PressToPicture::measurePresses(DesktopSession &session, xcb_window_t window
     }
     addIfAny(record.escapeToUnmapped, hide(), u"end of the panel after Escape"_s);
   }
+}
+
+void PressToPicture::measureWheel(DesktopSession &session, xcb_window_t window,
+                                  WholeProgramFigures &figures) const {
+  constexpr quint8 wheelUp = 4;
+  constexpr quint8 wheelDown = 5;
+  PictureWatch watch(session.displayName(), window);
+  session.input().tap(XK_space, {XK_Super_L, XK_Shift_L});
+  require(u"the panel to have the keyboard"_s, [&] { return session.windows().hasFocus(window); });
+  session.input().moveTo(session.windows().geometry(window).center());
+  watch.waitForQuiet();
+  // Down and up by turns, so that every step finds something to scroll.
+  for (int step = 0; step < m_effort.wheelSteps; ++step) {
+    const quint8 button = step % 2 == 0 ? wheelDown : wheelUp;
+    const auto times = watch.timesAfter([&] { session.input().pressButton(button); });
+    session.input().releaseButton(button);
+    addIfAny(figures.wheelStepToSettled, times.settled, u"change after a wheel step"_s);
+  }
+}
+
+void PressToPicture::measureWakeUpsWhileShown(DesktopSession &session, const Program &program,
+                                              WholeProgramFigures &figures) const {
+  require(u"the shown panel"_s, [&] { return session.windows().isViewable(program.panel()); });
+  const qint64 before = ProcessFigures::wakeUps(program.processId());
+  QThread::sleep(static_cast<unsigned long>(m_effort.hiddenTime.count()));
+  figures.wakeUpsWhileShown =
+      static_cast<double>(ProcessFigures::wakeUps(program.processId()) - before) /
+      static_cast<double>(m_effort.hiddenTime.count());
 }
 
 void PressToPicture::measureRest(qint64 processId, WholeProgramFigures &figures) const {

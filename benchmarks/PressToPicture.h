@@ -8,10 +8,14 @@
 
 namespace lanternix {
 
+class Program;
+
 /// How often each figure is measured.
 struct Effort {
   int starts = 15;
   int presses = 60;
+  int wheelSteps = 40;
+  int foldings = 20;
   std::chrono::seconds hiddenTime{20};
 };
 
@@ -23,9 +27,14 @@ struct WholeProgramFigures {
   Series pressToSettled;
   Series letterToSettled;
   Series escapeToUnmapped;
+  Series wheelStepToSettled;
+  Series longestGapWhileUnfolding;
+  Series processorTimePerFrame;
   qint64 proportionalSetSizeKilobytes = 0;
   qint64 residentSetSizeKilobytes = 0;
   qint64 wakeUpsWhileHidden = 0;
+  /// In each second.
+  double wakeUpsWhileShown = 0;
 };
 
 /// Measures the built program over a data file, or a bare window as the floor under its figures, on
@@ -36,11 +45,17 @@ class PressToPicture {
 
   WholeProgramFigures measureProgram(const QByteArray &dataFile);
   WholeProgramFigures measureBareClient();
+  /// Only what concerns folding. The first group of \p dataFile is measured, folded at the start.
+  WholeProgramFigures measureFolding(const QByteArray &dataFile);
 
  private:
   void measureStarts(DesktopSession &session, WholeProgramFigures &figures) const;
   void measurePresses(DesktopSession &session, xcb_window_t window,
                       WholeProgramFigures &figures) const;
+  void measureWheel(DesktopSession &session, xcb_window_t window,
+                    WholeProgramFigures &figures) const;
+  void measureWakeUpsWhileShown(DesktopSession &session, const Program &program,
+                                WholeProgramFigures &figures) const;
   void measureRest(qint64 processId, WholeProgramFigures &figures) const;
 
   Effort m_effort;

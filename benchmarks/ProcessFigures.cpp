@@ -26,6 +26,16 @@ qint64 valueOf(const QByteArray &key, const QString &path) {
   throw HarnessError(u"%1 has no %2"_s.arg(path, QString::fromLatin1(key)));
 }
 
+/// The directories of its threads.
+QStringList threads(qint64 processId) {
+  const QDir tasks(u"/proc/%1/task"_s.arg(processId));
+  QStringList paths;
+  for (const QString &thread : tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    paths.append(tasks.filePath(thread));
+  }
+  return paths;
+}
+
 }  // namespace
 
 qint64 ProcessFigures::proportionalSetSize(qint64 processId) {
@@ -37,11 +47,21 @@ qint64 ProcessFigures::residentSetSize(qint64 processId) {
 }
 
 qint64 ProcessFigures::wakeUps(qint64 processId) {
-  const QDir tasks(u"/proc/%1/task"_s.arg(processId));
   qint64 sum = 0;
-  const QStringList threads = tasks.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-  for (const QString &thread : threads) {
-    sum += valueOf("voluntary_ctxt_switches", tasks.filePath(thread + u"/status"_s));
+  for (const QString &thread : threads(processId)) {
+    sum += valueOf("voluntary_ctxt_switches", thread + u"/status"_s);
+  }
+  return sum;
+}
+
+std::chrono::duration<double, std::milli> ProcessFigures::processorTime(qint64 processId) {
+  std::chrono::nanoseconds sum{0};
+  for (const QString &thread : threads(processId)) {
+    QFile file(thread + u"/schedstat"_s);
+    if (!file.open(QIODevice::ReadOnly)) {
+      throw HarnessError(u"%1: %2"_s.arg(file.fileName(), file.errorString()));
+    }
+    sum += std::chrono::nanoseconds(file.readAll().split(' ').first().toLongLong());
   }
   return sum;
 }

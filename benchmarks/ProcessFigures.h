@@ -2,6 +2,8 @@
 
 #include <QtCore/QtGlobal>
 
+#include <chrono>
+
 namespace lanternix {
 
 /// What the kernel tells about a running process.
@@ -16,6 +18,9 @@ qint64 residentSetSize(qint64 processId);
 
 /// How often its threads, all together, have been put to sleep and woken since they began.
 qint64 wakeUps(qint64 processId);
+
+/// How long its threads, all together, have had a processor since they began.
+std::chrono::duration<double, std::milli> processorTime(qint64 processId);
 
 }  // namespace ProcessFigures
 

@@ -1,9 +1,11 @@
 #include "App/LanternixApp.h"
 
 #include "App/AppDelegate.h"
+#include "App/AppearanceFollower.h"
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/WindowSystem.h"
+#include "Views/Panel/PanelAccessibility.h"
 #include "Views/Style/ApplicationIcon.h"
 #include "Views/Style/LanternixStyle.h"
 
@@ -45,6 +47,7 @@ int LanternixApp::run(int argc, char **argv) {
   const QApplication application(count, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(applicationIcon());
+  PanelAccessibility::install();
 
   const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
   if (!instance->claim()) {
@@ -52,6 +55,7 @@ int LanternixApp::run(int argc, char **argv) {
   }
   const std::unique_ptr<Platform> platform = Platform::create();
   followCompositing(platform->windowSystem(), *style);
+  const AppearanceFollower appearance(platform->systemAppearance(), *style);
   AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
   QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
                    &AppDelegate::showPanel);

@@ -7,6 +7,7 @@
 #include <QtGui/QCloseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QWindow>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
 #include <cmath>
@@ -77,6 +78,11 @@ void FloatingPanel::makeKeyAndOrderFront() {
   }
   show();
   m_windowSystem.activate(*windowHandle());
+  // Shown again this soon after hiding, Qt still takes the window for the one with the keyboard and
+  // will not notice that it comes back: the widget has to be told here.
+  if (QGuiApplication::focusWindow() == windowHandle() && !isActiveWindow()) {
+    QApplication::setActiveWindow(this);
+  }
 }
 
 void FloatingPanel::orderOut() {

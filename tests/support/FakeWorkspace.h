@@ -23,7 +23,10 @@ class FakeWorkspace final : public Workspace {
   void revealInFileViewer(const QString &path) override {
     note(QStringLiteral("revealInFileViewer ") + path);
   }
-  QStringList iconNamesForFile(const QString &path) const override { return icons.value(path); }
+  QStringList iconNamesForFile(const QString &path) const override {
+    iconRequests.append(path);
+    return icons.value(path);
+  }
   QStringList iconNamesForFolders() const override { return {QStringLiteral("folder")}; }
   QStringList iconNamesForAnyFile() const override { return {QStringLiteral("any-file")}; }
 
@@ -32,6 +35,8 @@ class FakeWorkspace final : public Workspace {
   QStringList applications;
   /// The names of the icons of the files that exist, by their paths.
   QHash<QString, QStringList> icons;
+  /// The paths of the files whose icons have been asked for.
+  mutable QStringList iconRequests;
   /// Called at every request, to look at the state of things at that moment.
   std::function<void()> onRequest;
 

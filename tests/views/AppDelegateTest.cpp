@@ -6,11 +6,13 @@
 #include "Views/Panel/PopupPanelView.h"
 #include "views/ViewTest.h"
 
+#include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 
 namespace lanternix {
 
@@ -64,6 +66,13 @@ class AppDelegateTest : public ViewTest {
   }
   static void pressComma(Qt::KeyboardModifiers modifiers) {
     press(59, ',', modifiers, Qt::Key_Comma, QStringLiteral(","));
+  }
+
+  static QLineEdit *field() { return panel()->findChild<QLineEdit *>(); }
+  /// What an input method sends while something is being composed.
+  static void compose(const QString &text) {
+    QInputMethodEvent event(text, {});
+    QCoreApplication::sendEvent(field(), &event);
   }
 
   static QRect workArea() { return QGuiApplication::primaryScreen()->availableGeometry(); }
@@ -163,6 +172,35 @@ TEST_F(AppDelegateTest, Return_OpensTheSelectedItem_WhateverTheModifiers) {
   pressReturn(Qt::ShiftModifier);
   EXPECT_EQ(processLauncher.launches, QStringList(QStringLiteral("/bin/sh -c edit notes")));
   EXPECT_FALSE(panel()->isVisible());
+}
+
+// An input method takes the keys that it composes with; what it lets pass is meant for the panel,
+// also while something is being composed.
+
+TEST_F(AppDelegateTest, AnArrowThatAnInputMethodLetsPass_MovesTheSelection) {
+  start();
+  compose(QStringLiteral("ka"));
+  pressDown();
+  EXPECT_EQ(delegate->appState().selectedItemId(), report.id);
+  EXPECT_EQ(delegate->appState().searchQuery(), QString());
+}
+
+TEST_F(AppDelegateTest, AReturnThatAnInputMethodLetsPass_OpensTheSelectedItem) {
+  start();
+  pressUp();
+  compose(QStringLiteral("ka"));
+  pressReturn();
+  EXPECT_EQ(processLauncher.launches, QStringList(QStringLiteral("/bin/sh -c edit notes")));
+}
+
+TEST_F(AppDelegateTest, AnEscapeThatAnInputMethodLetsPass_HidesThePanelAndEmptiesTheField) {
+  start();
+  const QVariant caret = field()->inputMethodQuery(Qt::ImCursorRectangle);
+  compose(QStringLiteral("ka"));
+  ASSERT_NE(field()->inputMethodQuery(Qt::ImCursorRectangle), caret);
+  pressEscape();
+  EXPECT_FALSE(panel()->isVisible());
+  EXPECT_EQ(field()->inputMethodQuery(Qt::ImCursorRectangle), caret);
 }
 
 TEST_F(AppDelegateTest, CommandComma_HidesThePanelAndOpensTheSettings) {

@@ -15,7 +15,7 @@ namespace {
 class FloatingPanelTest : public testing::Test {
  protected:
   void SetUp() override {
-    panel.setGeometry(100, 50, 500, 400);
+    panel.setFrame({100, 50, 500, 400});
     panel.makeKeyAndOrderFront();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
   }

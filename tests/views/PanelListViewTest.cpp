@@ -160,6 +160,19 @@ TEST_F(PanelListViewTest, ABrokenItem_IsMarked) {
   EXPECT_NE(view->grab(view->rowRect(1)).toImage(), view->grab(view->rowRect(2)).toImage());
 }
 
+TEST_F(PanelListViewTest, OnlyRowsInSight_AskForTheirIcons) {
+  QList<PathItem> items;
+  for (int i = 0; i < 1000; ++i) {
+    items.append(item(QStringLiteral("Item"), work, i, QStringLiteral("/%1").arg(i)));
+    items.last().type = ItemType::file;
+  }
+  show({work}, items);
+  EXPECT_TRUE(workspace.iconRequests.isEmpty()) << "before anything is drawn";
+  view->grab();
+  EXPECT_FALSE(workspace.iconRequests.isEmpty());
+  EXPECT_LT(workspace.iconRequests.size(), 20);
+}
+
 TEST_F(PanelListViewTest, EveryDensity_HasRowsOfItsOwnHeight) {
   show({work}, {report});
   const int medium = view->rowRect(1).height();

@@ -2,6 +2,7 @@
 #include "Views/Style/SymbolButton.h"
 #include "views/ViewTest.h"
 
+#include <QtGui/QInputMethodEvent>
 #include <QtTest/QTest>
 #include <QtWidgets/QLineEdit>
 
@@ -19,7 +20,23 @@ class SearchBarViewTest : public ViewTest {
     field = view->findChild<QLineEdit *>();
     clearButton = view->findChild<SymbolButton *>();
     view->show();
+    state->setPanelVisible(true);
   }
+
+  /// What an input method sends while something is being composed.
+  void compose(const QString &text) {
+    QInputMethodEvent event(text, {});
+    QCoreApplication::sendEvent(field, &event);
+  }
+  /// What it sends when that is done.
+  void commit(const QString &text) {
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(field, &event);
+  }
+  QImage picture() { return field->grab().toImage(); }
+  /// Where the caret stands, which is behind what is being composed.
+  QRect caret() const { return field->inputMethodQuery(Qt::ImCursorRectangle).toRect(); }
 
   PathGroup work;
   PathItem report;
@@ -68,6 +85,55 @@ TEST_F(SearchBarViewTest, ReturnInTheField_OpensTheFirstMatch) {
   QTest::keyClicks(field, QStringLiteral("rep"));
   QTest::keyClick(field, Qt::Key_Return);
   EXPECT_TRUE(state->items().front().lastAccessed.has_value());
+}
+
+TEST_F(SearchBarViewTest, WhatIsBeingComposed_IsShownButNotSearchedFor) {
+  const QImage empty = picture();
+  compose(QStringLiteral("rep"));
+  EXPECT_NE(picture(), empty);
+  EXPECT_EQ(state->searchQuery(), QString());
+}
+
+TEST_F(SearchBarViewTest, WhatHasBeenComposed_IsSearchedFor) {
+  compose(QStringLiteral("re"));
+  commit(QStringLiteral("rep"));
+  EXPECT_EQ(state->searchQuery(), QStringLiteral("rep"));
+  EXPECT_EQ(field->text(), QStringLiteral("rep"));
+}
+
+TEST_F(SearchBarViewTest, ACompositionAfterTypedLetters_LeavesThemSearchedFor) {
+  QTest::keyClicks(field, QStringLiteral("re"));
+  compose(QStringLiteral("p"));
+  EXPECT_EQ(state->searchQuery(), QStringLiteral("re"));
+  commit(QStringLiteral("p"));
+  EXPECT_EQ(state->searchQuery(), QStringLiteral("rep"));
+}
+
+TEST_F(SearchBarViewTest, AHiddenField_GivesUpWhatIsBeingComposed) {
+  const QImage empty = picture();
+  compose(QStringLiteral("rep"));
+  view->hide();
+  view->show();
+  EXPECT_EQ(picture(), empty);
+  EXPECT_EQ(state->searchQuery(), QString());
+}
+
+TEST_F(SearchBarViewTest, WhatIsComposedTooLate_IsNotTypedIntoTheNextSearch) {
+  compose(QStringLiteral("rep"));
+  state->onHide = [this] { commit(QStringLiteral("rep")); };
+  state->hidePanel();
+  EXPECT_EQ(state->searchQuery(), QString());
+  EXPECT_EQ(field->text(), QString());
+}
+
+TEST_F(SearchBarViewTest, TheClearButton_GivesUpWhatIsBeingComposed) {
+  const QRect start = caret();
+  QTest::keyClicks(field, QStringLiteral("re"));
+  compose(QStringLiteral("p"));
+  QTest::mouseClick(clearButton, Qt::LeftButton);
+  EXPECT_EQ(field->text(), QString());
+  EXPECT_EQ(state->searchQuery(), QString());
+  EXPECT_EQ(caret(), start);
 }
 
 }  // namespace lanternix

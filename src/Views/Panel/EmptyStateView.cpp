@@ -1,9 +1,11 @@
 #include "Views/Panel/EmptyStateView.h"
 
+#include "Views/Panel/PanelAccessibility.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SymbolLabel.h"
 #include "Views/Style/TextLabel.h"
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
@@ -11,7 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace lanternix {
 
-EmptyStateView::EmptyStateView(QWidget *parent) : QWidget(parent) {
+EmptyStateView::EmptyStateView(QWidget *parent)
+    : QWidget(parent), m_button(new QPushButton(u"Open Settings"_s, this)) {
+  setAccessibleName(u"No items yet"_s);
+  setAccessibleDescription(u"Open Settings to add groups and items"_s);
   constexpr double markSide = 44;
   auto *mark = new SymbolLabel(
       u"arrow.triangle.branch"_s, markSide,
@@ -20,14 +25,10 @@ EmptyStateView::EmptyStateView(QWidget *parent) : QWidget(parent) {
                               FillStyle::secondary, this);
   auto *hint = new TextLabel(u"Open Settings to add groups and items"_s, TextStyle::subheadline,
                              QFont::Normal, FillStyle::tertiary, this);
-  auto *button = new QPushButton(u"Open Settings"_s, this);
-  button->setFont(textFont(TextStyle::subheadline, QFont::Medium));
-  button->setIcon(QPixmap::fromImage(Symbol::image(u"gearshape"_s, button->iconSize().width(),
-                                                   palette().color(QPalette::ButtonText),
-                                                   devicePixelRatioF())));
-  button->setDefault(true);
-  button->setFocusPolicy(Qt::TabFocus);
-  connect(button, &QAbstractButton::clicked, this, &EmptyStateView::settingsRequested);
+  m_button->setDefault(true);
+  m_button->setFocusPolicy(Qt::TabFocus);
+  updateButton();
+  connect(m_button, &QAbstractButton::clicked, this, &EmptyStateView::settingsRequested);
 
   auto *texts = new QVBoxLayout;
   texts->setSpacing(6);
@@ -40,8 +41,23 @@ EmptyStateView::EmptyStateView(QWidget *parent) : QWidget(parent) {
   layout->addStretch();
   layout->addWidget(mark, 0, Qt::AlignHCenter);
   layout->addLayout(texts);
-  layout->addWidget(button, 0, Qt::AlignHCenter);
+  layout->addWidget(m_button, 0, Qt::AlignHCenter);
   layout->addStretch();
+  PanelAccessibility::readInOrderOf(*layout);
+}
+
+void EmptyStateView::updateButton() {
+  m_button->setFont(textFont(TextStyle::subheadline, QFont::Medium));
+  m_button->setIcon(QPixmap::fromImage(Symbol::image(u"gearshape"_s, m_button->iconSize().width(),
+                                                     palette().color(QPalette::ButtonText),
+                                                     devicePixelRatioF())));
+}
+
+void EmptyStateView::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) {
+    updateButton();
+  }
+  QWidget::changeEvent(event);
 }
 
 }  // namespace lanternix

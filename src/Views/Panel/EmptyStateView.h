@@ -2,6 +2,8 @@
 
 #include <QtWidgets/QWidget>
 
+class QPushButton;
+
 namespace lanternix {
 
 /// What the panel says while there is nothing to list, with the way to change that.
@@ -13,6 +15,14 @@ class EmptyStateView : public QWidget {
 
  Q_SIGNALS:
   void settingsRequested();
+
+ protected:
+  void changeEvent(QEvent *event) override;
+
+ private:
+  void updateButton();
+
+  QPushButton *m_button;
 };
 
 }  // namespace lanternix

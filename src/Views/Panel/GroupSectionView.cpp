@@ -2,6 +2,7 @@
 
 #include "Models/PathGroup.h"
 #include "Views/Panel/PanelMetrics.h"
+#include "Views/Style/Contrast.h"
 #include "Views/Style/DisplayText.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/Symbol.h"
@@ -106,10 +107,12 @@ void GroupSectionView::paintCount(QPainter &painter, const QPalette &palette, co
   const double width = QFontMetricsF(countFont()).horizontalAdvance(text) + 2 * countSidePadding;
   const QRectF capsule(left, row.center().y() - countHeight() / 2, width, countHeight());
   painter.setPen(Qt::NoPen);
-  painter.setBrush(fillColor(FillStyle::quaternary, palette));
+  const QColor fill = fillColor(FillStyle::quaternary, palette);
+  painter.setBrush(fill);
   painter.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
   painter.setFont(countFont());
-  painter.setPen(fillColor(FillStyle::secondary, palette));
+  painter.setPen(fillColor(FillStyle::secondary, palette,
+                           Contrast::laidOn(palette.color(QPalette::Window), fill)));
   painter.drawText(capsule, Qt::AlignCenter, text);
 }
 

@@ -1,5 +1,6 @@
 #include "Views/Panel/KeyHintView.h"
 
+#include "Views/Style/Contrast.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/TextStyle.h"
 
@@ -65,11 +66,14 @@ void KeyHintView::paintEvent(QPaintEvent * /*event*/) {
   QRectF cap = keyCap();
   cap.moveTop((height() - cap.height()) / 2);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(fillColor(FillStyle::quaternary, palette()));
+  const QColor capColor = fillColor(FillStyle::quaternary, palette());
+  painter.setBrush(capColor);
   painter.drawRoundedRect(cap, capRadius, capRadius);
-  painter.setPen(fillColor(FillStyle::tertiary, palette()));
+  const QColor ground = Contrast::laidOn(palette().color(QPalette::Window), capColor);
+  painter.setPen(fillColor(FillStyle::tertiary, palette(), ground));
   painter.setFont(keyFont());
   painter.drawText(cap, Qt::AlignCenter, m_key);
+  painter.setPen(fillColor(FillStyle::tertiary, palette()));
   painter.setFont(wordFont());
   painter.drawText(QRectF(rect()).adjusted(cap.right() + spacing, 0, 0, 0),
                    Qt::AlignLeft | Qt::AlignVCenter, m_word);

@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 namespace lanternix {
 
 NoResultsView::NoResultsView(QWidget *parent) : QWidget(parent) {
+  setAccessibleName(u"No results found"_s);
   constexpr double markSide = 32;
   auto *mark = new SymbolLabel(
       u"magnifyingglass"_s, markSide,

@@ -2,6 +2,7 @@
 
 #include "App/AppState.h"
 #include "Views/Panel/KeyHintView.h"
+#include "Views/Panel/PanelAccessibility.h"
 #include "Views/Panel/ScopeBadgeView.h"
 #include "Views/Style/TextLabel.h"
 
@@ -25,6 +26,7 @@ PanelFooterView::PanelFooterView(AppState &appState, QWidget *parent)
   layout->addStretch();
   layout->addWidget(m_scope);
   layout->addWidget(m_count);
+  PanelAccessibility::readInOrderOf(*layout);
 
   connect(&appState, &AppState::searchQueryChanged, this, &PanelFooterView::updateScope);
   connect(&appState, &AppState::groupsChanged, this, &PanelFooterView::updateScope);

@@ -1,6 +1,5 @@
 #include "Views/Panel/PanelHeaderView.h"
 
-#include "Views/Style/Symbol.h"
 #include "Views/Style/SymbolButton.h"
 #include "Views/Style/SymbolLabel.h"
 #include "Views/Style/SystemColors.h"
@@ -14,7 +13,7 @@ namespace lanternix {
 
 PanelHeaderView::PanelHeaderView(QWidget *parent) : QWidget(parent) {
   auto *mark = new SymbolLabel(
-      u"arrow.triangle.branch"_s, Symbol::sideFor(textFont(TextStyle::title2)),
+      u"arrow.triangle.branch"_s, TextStyle::title2,
       [](const QPalette &palette) { return systemColor(SystemColor::blue, palette); }, this);
   auto *name =
       new TextLabel(u"Lanternix"_s, TextStyle::title3, QFont::DemiBold, FillStyle::primary, this);

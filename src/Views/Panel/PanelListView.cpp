@@ -183,6 +183,11 @@ bool PanelListView::viewportEvent(QEvent *event) {
   return QAbstractScrollArea::viewportEvent(event);
 }
 
+void PanelListView::scrollContentsBy(int /*dx*/, int /*dy*/) {
+  m_hover.reset(rowUnderPointer());
+  viewport()->update();
+}
+
 bool PanelListView::isClickable(qsizetype row) const {
   return m_model.itemAt(row) != nullptr ||
          (row >= 0 && m_model.rows()[row].kind == PanelRow::Kind::groupHeader);

@@ -21,6 +21,9 @@ class PanelListView : public QAbstractScrollArea {
  public:
   PanelListView(AppState &appState, PanelListModel &model, QWidget *parent = nullptr);
 
+  AppState &appState() const { return m_appState; }
+  PanelListModel &model() const { return m_model; }
+
   /// Where a row is drawn, in viewport coordinates; it may lie outside the viewport.
   QRect rowRect(qsizetype row) const;
   /// The row at a viewport position, or -1.
@@ -37,6 +40,7 @@ class PanelListView : public QAbstractScrollArea {
   void resizeEvent(QResizeEvent *event) override;
   void changeEvent(QEvent *event) override;
   bool viewportEvent(QEvent *event) override;
+  void scrollContentsBy(int dx, int dy) override;
   void mousePressEvent(QMouseEvent *event) override;
   void mouseDoubleClickEvent(QMouseEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;

@@ -3,6 +3,8 @@
 #include "App/AppState.h"
 #include "Views/Panel/EmptyStateView.h"
 #include "Views/Panel/NoResultsView.h"
+#include "Views/Panel/PanelAccessibility.h"
+#include "Views/Panel/PanelAnnouncer.h"
 #include "Views/Panel/PanelFooterView.h"
 #include "Views/Panel/PanelHeaderView.h"
 #include "Views/Panel/PanelListModel.h"
@@ -12,9 +14,7 @@
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/Material.h"
 #include "Views/Style/SlimScrollBar.h"
-#include "Views/Style/Symbol.h"
 #include "Views/Style/SymbolLabel.h"
-#include "Views/Style/TextStyle.h"
 
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QKeyEvent>
@@ -60,10 +60,12 @@ PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
   layout->addLayout(m_body, 1);
   layout->addWidget(new DividerLine(this));
   layout->addWidget(new PanelFooterView(appState, this));
+  PanelAccessibility::readInOrderOf(*layout);
 
   m_searchBar->focusProxy()->installEventFilter(this);
   connect(m_model, &QAbstractItemModel::modelReset, this, &PopupPanelView::updateMessages);
   updateMessages();
+  new PanelAnnouncer(appState, *m_list, this);
 }
 
 QWidget *PopupPanelView::makeSearchRow() {
@@ -72,7 +74,7 @@ QWidget *PopupPanelView::makeSearchRow() {
   layout->setContentsMargins(20, 0, 20, 14);
   layout->setSpacing(10);
   layout->addWidget(new SymbolLabel(
-      u"magnifyingglass"_s, Symbol::sideFor(textFont(TextStyle::title3)),
+      u"magnifyingglass"_s, TextStyle::title3,
       [](const QPalette &palette) { return fillColor(FillStyle::secondary, palette); }, row));
   layout->addWidget(m_searchBar, 1);
   return row;
@@ -107,7 +109,11 @@ void PopupPanelView::updateMessages() {
   const bool noResults = nothingFiltered && !m_appState.searchQuery().isEmpty();
   m_emptyState->setVisible(empty);
   m_noResults->setVisible(noResults);
-  m_body->setCurrentWidget(empty || noResults ? static_cast<QWidget *>(m_messages) : m_list);
+  QWidget *body = empty || noResults ? static_cast<QWidget *>(m_messages) : m_list;
+  if (body != m_body->currentWidget()) {
+    m_body->setCurrentWidget(body);  // which raises it
+    PanelAccessibility::readInOrderOf(*layout());
+  }
 }
 
 void PopupPanelView::openSettings() {

@@ -1,5 +1,6 @@
 #include "Views/Panel/ScopeBadgeView.h"
 
+#include "Views/Style/Contrast.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
 #include "Views/Style/TextStyle.h"
@@ -51,10 +52,13 @@ QSize ScopeBadgeView::minimumSizeHint() const {
 void ScopeBadgeView::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor color = systemColor(SystemColor::blue, palette());
+  const QColor blue = systemColor(SystemColor::blue, palette());
+  const QColor fill = withOpacity(blue, 0.15F);
+  const QColor ground = Contrast::laidOn(palette().color(QPalette::Window), fill);
+  const QColor color = Contrast::readableOn(ground, blue);
   const QRectF capsule = rect();
   painter.setPen(Qt::NoPen);
-  painter.setBrush(withOpacity(color, 0.15F));
+  painter.setBrush(fill);
   painter.drawRoundedRect(capsule, capsule.height() / 2, capsule.height() / 2);
 
   const double side = symbolSide();

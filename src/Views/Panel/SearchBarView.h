@@ -9,8 +9,9 @@ namespace lanternix {
 class AppState;
 class SymbolButton;
 
-/// The search field: its text is the store's query, both ways and at once. A clear button stands
-/// beside it while there is text.
+/// The search field: its text is the store's query, both ways and at once. What an input method is
+/// still composing is no part of it, and is given up when the field is hidden. A clear button
+/// stands beside the field while there is text.
 class SearchBarView : public QWidget {
   Q_OBJECT
 
@@ -22,9 +23,13 @@ class SearchBarView : public QWidget {
 
  protected:
   void changeEvent(QEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
+  bool eventFilter(QObject *watched, QEvent *event) override;
 
  private:
+  void updateColors();
   void updateFont();
+  void abandonComposition();
   void readQuery();
 
   AppState &m_appState;

@@ -7,7 +7,7 @@ namespace lanternix {
 
 AccentFill AccentFill::of(const QColor &color) {
   // Below this, a colour would have to be darkened so much that it were another.
-  constexpr double carriesWhite = 2.2;
+  constexpr double carriesWhite = 3;
   if (Contrast::ratio(Qt::white, color) < carriesWhite) {
     return {color, Qt::black};
   }

@@ -8,19 +8,25 @@
 
 namespace lanternix {
 
-SymbolLabel::SymbolLabel(QString symbol, double side, Tint tint, QWidget *parent)
-    : QWidget(parent), m_symbol(std::move(symbol)), m_side(side), m_tint(std::move(tint)) {
+SymbolLabel::SymbolLabel(QString symbol, Size size, Tint tint, QWidget *parent)
+    : QWidget(parent), m_symbol(std::move(symbol)), m_size(size), m_tint(std::move(tint)) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
+double SymbolLabel::side() const {
+  const auto *style = std::get_if<TextStyle>(&m_size);
+  return style != nullptr ? Symbol::sideFor(textFont(*style)) : std::get<double>(m_size);
+}
+
 QSize SymbolLabel::sizeHint() const {
-  return {qCeil(m_side), qCeil(m_side)};
+  const int extent = qCeil(side());
+  return {extent, extent};
 }
 
 void SymbolLabel::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  Symbol::draw(painter, rect(), m_symbol, m_side, m_tint(palette()));
+  Symbol::draw(painter, rect(), m_symbol, side(), m_tint(palette()));
 }
 
 }  // namespace lanternix

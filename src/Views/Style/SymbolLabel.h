@@ -1,12 +1,15 @@
 #pragma once
 
+#include "Views/Style/TextStyle.h"
+
 #include <QtWidgets/QWidget>
 
 #include <functional>
+#include <variant>
 
 namespace lanternix {
 
-/// A symbol by itself, of a fixed size.
+/// A symbol by itself.
 class SymbolLabel : public QWidget {
   Q_OBJECT
 
@@ -15,8 +18,11 @@ class SymbolLabel : public QWidget {
   /// the desktop's appearance.
   using Tint = std::function<QColor(const QPalette &)>;
 
-  /// \p side in logical pixels.
-  SymbolLabel(QString symbol, double side, Tint tint, QWidget *parent = nullptr);
+  /// Either a side in logical pixels, or the style of the text that the symbol goes with; then it
+  /// follows changes of the user's font.
+  using Size = std::variant<double, TextStyle>;
+
+  SymbolLabel(QString symbol, Size size, Tint tint, QWidget *parent = nullptr);
 
   QSize sizeHint() const override;
 
@@ -24,8 +30,10 @@ class SymbolLabel : public QWidget {
   void paintEvent(QPaintEvent *event) override;
 
  private:
+  double side() const;
+
   QString m_symbol;
-  double m_side;
+  Size m_size;
   Tint m_tint;
 };
 

@@ -3,6 +3,7 @@
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/TextStyle.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QLabel>
 
 namespace lanternix {
@@ -16,14 +17,20 @@ class TextLabel : public QLabel {
   TextLabel(const QString &text, TextStyle style, QFont::Weight weight, FillStyle fill,
             QWidget *parent = nullptr);
 
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
  protected:
   void changeEvent(QEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
  private:
+  void updateFont();
+  void watchParent();
+
   TextStyle m_style;
   QFont::Weight m_weight;
   FillStyle m_fill;
+  QPointer<QWidget> m_watchedParent;
 };
 
 }  // namespace lanternix

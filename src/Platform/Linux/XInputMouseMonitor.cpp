@@ -89,9 +89,8 @@ void XInputMouseMonitor::followPointer(const xcb_generic_event_t &event) {
                crossing.detail != XCB_NOTIFY_DETAIL_INFERIOR) {
       m_windowUnderPointer = XCB_WINDOW_NONE;
     }
-  } else if (type == XCB_UNMAP_NOTIFY &&
-             reinterpret_cast<const xcb_unmap_notify_event_t &>(event).window ==
-                 m_windowUnderPointer) {
+  } else if (type == XCB_UNMAP_NOTIFY) {
+    // A menu that has gone had the pointer to itself: nobody has told where it went meanwhile.
     m_windowUnderPointer = XCB_WINDOW_NONE;
   }
 }

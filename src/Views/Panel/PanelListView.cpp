@@ -54,7 +54,6 @@ void PanelListView::updateMetrics() {
 }
 
 void PanelListView::readRows() {
-  m_pressedRow = -1;
   m_hover.reset(-1);
   layOutRows();
   // A list that changes below a user who has scrolled away stays where it is; a new search does
@@ -188,6 +187,14 @@ void PanelListView::scrollContentsBy(int /*dx*/, int /*dy*/) {
   viewport()->update();
 }
 
+std::optional<QUuid> PanelListView::idAt(qsizetype row) const {
+  if (const PathItem *item = m_model.itemAt(row)) {
+    return item->id;
+  }
+  const PathGroup *group = m_model.groupAt(row);
+  return group != nullptr ? std::optional(group->id) : std::nullopt;
+}
+
 bool PanelListView::isClickable(qsizetype row) const {
   return m_model.itemAt(row) != nullptr ||
          (row >= 0 && m_model.rows()[row].kind == PanelRow::Kind::groupHeader);
@@ -199,9 +206,9 @@ bool PanelListView::isAnimated() const {
 
 void PanelListView::mousePressEvent(QMouseEvent *event) {
   const qsizetype row = rowAt(event->position().toPoint());
-  m_pressedRow = event->button() == Qt::LeftButton && isClickable(row) ? row : -1;
+  m_pressed = event->button() == Qt::LeftButton && isClickable(row) ? idAt(row) : std::nullopt;
   // What is no button is background, by which the panel is moved.
-  event->setAccepted(m_pressedRow >= 0);
+  event->setAccepted(m_pressed.has_value());
 }
 
 void PanelListView::mouseDoubleClickEvent(QMouseEvent *event) {
@@ -211,13 +218,14 @@ void PanelListView::mouseDoubleClickEvent(QMouseEvent *event) {
 
 void PanelListView::mouseMoveEvent(QMouseEvent *event) {
   m_hover.moveTo(rowAt(event->position().toPoint()), isAnimated());
-  event->setAccepted(m_pressedRow >= 0);
+  event->setAccepted(m_pressed.has_value());
 }
 
 void PanelListView::mouseReleaseEvent(QMouseEvent *event) {
-  const qsizetype row = std::exchange(m_pressedRow, -1);
-  event->setAccepted(row >= 0);
-  if (row >= 0 && row == rowAt(event->position().toPoint())) {
+  const std::optional<QUuid> pressed = std::exchange(m_pressed, std::nullopt);
+  event->setAccepted(pressed.has_value());
+  const qsizetype row = rowAt(event->position().toPoint());
+  if (pressed && pressed == idAt(row)) {
     activate(row);
   }
 }

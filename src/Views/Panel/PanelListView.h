@@ -5,7 +5,10 @@
 #include "Views/Panel/PanelListLayout.h"
 #include "Views/Panel/PanelRowPainter.h"
 
+#include <QtCore/QUuid>
 #include <QtWidgets/QAbstractScrollArea>
+
+#include <optional>
 
 namespace lanternix {
 
@@ -54,6 +57,7 @@ class PanelListView : public QAbstractScrollArea {
   void updateScrollBar();
   void scrollToSelection();
   qsizetype rowUnderPointer() const;
+  std::optional<QUuid> idAt(qsizetype row) const;
   bool isClickable(qsizetype row) const;
   bool isAnimated() const;
   double openness(const PathGroup *group) const;
@@ -66,7 +70,9 @@ class PanelListView : public QAbstractScrollArea {
   PanelListLayout m_layout;
   HoverFade m_hover;
   GroupFolding m_folding;
-  qsizetype m_pressedRow = -1;
+  /// Of the item or group that the mouse was pressed on. Not its row: the rows may be read anew
+  /// before the button is let go.
+  std::optional<QUuid> m_pressed;
   /// The query for which the selection was last brought into sight.
   QString m_shownQuery;
 };

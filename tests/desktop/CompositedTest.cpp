@@ -6,7 +6,8 @@ namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
-CompositedTest::CompositedTest(Compositing compositing) {
+CompositedTest::CompositedTest(Compositing compositing, DesktopSession::WithManager withManager)
+    : DesktopTest(withManager) {
   if (compositing == Compositing::on) {
     startCompositor();
   }

@@ -15,7 +15,8 @@ class CompositedTest : public DesktopTest {
  protected:
   enum class Compositing { off, on };
 
-  explicit CompositedTest(Compositing compositing);
+  explicit CompositedTest(Compositing compositing, DesktopSession::WithManager withManager =
+                                                       DesktopSession::WithManager::yes);
 
   /// What the shadow takes around the frame at scale 1.
   static constexpr QMargins shadow{36, 28, 36, 48};

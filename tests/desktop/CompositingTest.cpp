@@ -125,12 +125,31 @@ TEST_F(CompositingTest, Shadow_FadesToNothingOnEverySide) {
 // --- What presses do
 // ------------------------------------------------------------------------------
 
-TEST_F(CompositingTest, PressInTheShadow_ReachesTheWindowBelowAndHides) {
-  OtherClient &backdrop = openBackdrop();
+TEST_F(CompositingTest, PressInTheShadow_Hides) {
+  openBackdrop();
   start(commands({u"Build"_s}));
   input().click(below(frame(), 10));
   EXPECT_TRUE(becomesHidden());
-  EXPECT_TRUE(waitUntil([&] { return backdrop.buttons() == QList<quint8>{1}; }));
+}
+
+/// Where no window manager puts the panel into a frame of its own, which would take the press.
+class BareCompositingTest : public CompositedTest {
+ protected:
+  BareCompositingTest() : CompositedTest(Compositing::on, DesktopSession::WithManager::no) {}
+};
+
+TEST_F(BareCompositingTest, PressInTheShadow_HidesAndReachesTheWindowBelow) {
+  start(commands({u"Build"_s}));
+  const QRect panel = frame();
+  OtherClient underneath(session().displayName(), panel.adjusted(-60, 100, 60, 100));
+  underneath.show();
+  const quint32 belowOthers = XCB_STACK_MODE_BELOW;
+  xcb_configure_window(session().windows().connection(), underneath.window(),
+                       XCB_CONFIG_WINDOW_STACK_MODE, &belowOthers);
+  session().windows().connection().sync();
+  input().click(below(panel, 10));
+  EXPECT_TRUE(becomesHidden());
+  EXPECT_TRUE(waitUntil([&] { return underneath.buttons() == QList<quint8>{1}; }));
 }
 
 TEST_F(CompositingTest, DragOfTheFramesCorner_StoresTheFramesSize) {

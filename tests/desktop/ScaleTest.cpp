@@ -29,6 +29,14 @@ class ScaleTest : public CompositedTest, public testing::WithParamInterface<Case
     session().home().writePreferences("panelWidth=480\npanelHeight=360");
   }
 
+  /// Starts the program and waits until the window manager and it agree on the panel's place, which
+  /// they do only after its first picture.
+  void showAtRest(const SampleGroups &groups) {
+    start(groups);
+    settledPicture();
+    program().settle();
+  }
+
   static int scaled(int length) { return qRound(length * GetParam().scale); }
   static QMargins scaledShadow() {
     return GetParam().isComposited ? QMargins(scaled(shadow.left()), scaled(shadow.top()),
@@ -42,18 +50,19 @@ class ScaleTest : public CompositedTest, public testing::WithParamInterface<Case
     const QImage before = settledPicture();
     const QPoint origin = panelGeometry().topLeft();
     input().tap(XK_Down);
+    program().settle();
     return changedArea(before, list.translated(-origin)).translated(origin);
   }
 };
 
 TEST_P(ScaleTest, Panel_IsScaledWithItsShadow) {
-  start(commands({u"Build"_s}));
+  showAtRest(commands({u"Build"_s}));
   EXPECT_EQ(frameExtents(), scaledShadow());
   EXPECT_EQ(frame().size(), QSize(scaled(panelSize.width()), scaled(panelSize.height())));
 }
 
 TEST_P(ScaleTest, Panel_IsCentredOnTheWorkAreaAndABitUp) {
-  start(commands({u"Build"_s}));
+  showAtRest(commands({u"Build"_s}));
   QRect expected = placed(frame().size()).translated(0, 60 - scaled(60));
   expected.moveTop(std::max(expected.top(), session().windows().workArea().top()));
   const QPoint difference = frame().center() - expected.center();
@@ -61,7 +70,7 @@ TEST_P(ScaleTest, Panel_IsCentredOnTheWorkAreaAndABitUp) {
 }
 
 TEST_P(ScaleTest, OutlineOfTheWindow_IsScaled) {
-  start(commands({u"Build"_s}));
+  showAtRest(commands({u"Build"_s}));
   const XConnection &connection = session().windows().connection();
   const QRect inWindow = frame().translated(-panelGeometry().topLeft());
   EXPECT_EQ(WindowShape::input(connection, program().panel()).boundingRect(), inWindow);
@@ -70,7 +79,7 @@ TEST_P(ScaleTest, OutlineOfTheWindow_IsScaled) {
 }
 
 TEST_P(ScaleTest, ClickOnARow_OpensThatRow) {
-  start(commands({u"first"_s, u"second"_s, u"third"_s}));
+  showAtRest(commands({u"first"_s, u"second"_s, u"third"_s}));
   const QRect first = selectRow();
   // Just above the row's lower edge, where a wrong scale would already be in the next one.
   input().click({first.center().x(), first.bottom() + first.height() - 3});
@@ -78,7 +87,7 @@ TEST_P(ScaleTest, ClickOnARow_OpensThatRow) {
 }
 
 TEST_P(ScaleTest, RightClick_OpensTheMenuAtThePointer) {
-  start(commands({u"first"_s, u"second"_s, u"third"_s}));
+  showAtRest(commands({u"first"_s, u"second"_s, u"third"_s}));
   const QPoint pointer = selectRow().center();
   input().click(pointer, 3);
   const auto menus = [this] { return session().windows().menus(u"lanternix"_s); };
@@ -88,7 +97,7 @@ TEST_P(ScaleTest, RightClick_OpensTheMenuAtThePointer) {
 }
 
 TEST_P(ScaleTest, DragOfTheCorner_StoresTheUnscaledSize) {
-  start(commands({u"Build"_s}));
+  showAtRest(commands({u"Build"_s}));
   const QPoint grip = frame().bottomRight() - QPoint(1, scaled(12));
   // Lengths that are whole at every scale. The place of an edge need not be.
   const QSize smaller(scaled(440), scaled(340));
@@ -96,21 +105,23 @@ TEST_P(ScaleTest, DragOfTheCorner_StoresTheUnscaledSize) {
   input().pressButton();
   input().moveTo(grip - QPoint(scaled(40), scaled(20)));
   EXPECT_TRUE(waitUntil([&] { return frame().size() == smaller; }));
+  program().settle();
   input().releaseButton();
   EXPECT_TRUE(waitUntil([this] {
     return session().home().preference(u"panelWidth"_s) == u"440"_s &&
            session().home().preference(u"panelHeight"_s) == u"340"_s;
-  }));
+  })) << session().home().preference(u"panelWidth"_s).value_or(QString()).toStdString()
+      << 'x' << session().home().preference(u"panelHeight"_s).value_or(QString()).toStdString();
 }
 
 TEST_P(ScaleTest, PressJustOutsideTheFrame_Hides) {
-  start(commands({u"Build"_s}));
+  showAtRest(commands({u"Build"_s}));
   input().click(frame().bottomRight() + QPoint(3, -40));
   EXPECT_TRUE(becomesHidden());
 }
 
 TEST_P(ScaleTest, PressJustInsideTheFrame_DoesNotHide) {
-  start(commands({u"first"_s, u"second"_s}));
+  showAtRest(commands({u"first"_s, u"second"_s}));
   input().click(frame().bottomRight() - QPoint(scaled(8), scaled(8)));
   input().type(u"second"_s);
   input().tap(XK_Return);

@@ -105,7 +105,8 @@ void FloatingPanel::setFrame(const QRect &frame) {
 /// A window manager that puts the window into a frame of its own moves that to its place later, and
 /// need not say so. Asked once more for the same, it has to.
 void FloatingPanel::confirmPlace() {
-  if (windowHandle()->geometry() != m_wantedGeometry) {
+  const bool isInTheUsersHand = m_isDragged || m_edgeResizer->isResizing();
+  if (!isInTheUsersHand && windowHandle()->geometry() != m_wantedGeometry) {
     windowHandle()->setGeometry(m_wantedGeometry);
   }
 }

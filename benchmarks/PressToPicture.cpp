@@ -124,6 +124,7 @@ void PressToPicture::measurePresses(DesktopSession &session, xcb_window_t window
     return time;
   };
 
+  input.moveTo({2, 2});  // away from the rows, which would light up
   hide();
   // The first press finds nothing warm, so it does not count.
   for (int press = 0; press <= m_effort.presses; ++press) {

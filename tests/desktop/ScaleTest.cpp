@@ -22,6 +22,11 @@ std::string nameOf(const testing::TestParamInfo<Case> &info) {
          (info.param.isComposited ? "Composited" : "Plain");
 }
 
+/// In the names of the tests' parameters.
+void PrintTo(const Case &value, std::ostream *stream) {
+  *stream << value.scale << (value.isComposited ? " composited" : " plain");
+}
+
 class ScaleTest : public CompositedTest, public testing::WithParamInterface<Case> {
  protected:
   ScaleTest() : CompositedTest(GetParam().isComposited ? Compositing::on : Compositing::off) {
@@ -32,6 +37,7 @@ class ScaleTest : public CompositedTest, public testing::WithParamInterface<Case
   /// Starts the program and waits until the window manager and it agree on the panel's place, which
   /// they do only after its first picture.
   void showAtRest(const SampleGroups &groups) {
+    input().moveTo({2, 2});  // away from the rows, which would light up
     start(groups);
     settledPicture();
     program().settle();

@@ -12,7 +12,8 @@ namespace lanternix {
 /// the palette and the application font.
 ///
 /// A push button that is the default one of its window is prominent: filled with the accent colour.
-/// A menu's entry whose action has the property "destructive" is red.
+/// A menu's entry whose action has the property "destructive" is red; with the property "template"
+/// its icon is drawn in the colour of its text.
 class LanternixStyle : public QProxyStyle {
   Q_OBJECT
 

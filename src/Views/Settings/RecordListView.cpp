@@ -11,11 +11,19 @@
 
 namespace lanternix {
 
+namespace {
+
+/// Between the list's edge and its first row, in logical pixels.
+constexpr int topMargin = 6;
+
+}  // namespace
+
 RecordListView::RecordListView(RecordListModel &model, const QString &name, QWidget *parent)
     : QListView(parent), m_model(model), m_edgeScroller(new EdgeScroller(*this)) {
   setAccessibleName(name);
   setFrameShape(QFrame::NoFrame);
   viewport()->setAutoFillBackground(false);
+  setViewportMargins(0, topMargin, 0, 0);
   setUniformItemSizes(true);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollMode(ScrollPerPixel);

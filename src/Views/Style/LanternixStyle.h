@@ -12,8 +12,7 @@ namespace lanternix {
 /// the palette and the application font.
 ///
 /// A push button that is the default one of its window is prominent: filled with the accent colour.
-/// A menu's entry whose action has the property "destructive" is red; with the property "template"
-/// its icon is drawn in the colour of its text.
+/// A menu's entry whose action has the property "destructive" is red.
 class LanternixStyle : public QProxyStyle {
   Q_OBJECT
 

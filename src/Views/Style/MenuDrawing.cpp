@@ -29,10 +29,10 @@ QFont fontOf(const QStyleOptionMenuItem &option) {
   return option.font;
 }
 
-bool hasProperty(const QStyleOptionMenuItem &option, const QWidget *widget, const char *name) {
+bool isDestructive(const QStyleOptionMenuItem &option, const QWidget *widget) {
   const auto *menu = qobject_cast<const QMenu *>(widget);
   const QAction *action = menu != nullptr ? menu->actionAt(option.rect.center()) : nullptr;
-  return action != nullptr && action->property(name).toBool();
+  return action != nullptr && action->property("destructive").toBool();
 }
 
 AccentFill colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
@@ -41,7 +41,7 @@ AccentFill colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
   if (!option.state.testFlag(QStyle::State_Enabled)) {
     return {Qt::transparent, fillColor(FillStyle::tertiary, palette)};
   }
-  if (hasProperty(option, widget, "destructive")) {
+  if (isDestructive(option, widget)) {
     const QColor red = systemColor(SystemColor::red, palette);
     return isSelected ? AccentFill::of(red)
                       : AccentFill{Qt::transparent,
@@ -51,31 +51,8 @@ AccentFill colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
                     : AccentFill{Qt::transparent, fillColor(FillStyle::primary, palette)};
 }
 
-/// The icon's shape, filled with one colour.
-QImage tinted(const QIcon &icon, int side, double ratio, const QColor &color) {
-  QImage image = icon.pixmap(QSize(side, side), ratio).toImage();
-  QPainter painter(&image);
-  painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-  painter.fillRect(image.rect(), color);
-  return image;
-}
-
-void drawIcon(QPainter &painter, const QStyleOptionMenuItem &option, const QRect &place,
-              const QWidget *menu, const QColor &color) {
-  if (hasProperty(option, menu, "template")) {
-    const QImage image =
-        tinted(option.icon, place.width(), painter.device()->devicePixelRatioF(), color);
-    QRectF area({}, image.deviceIndependentSize());
-    area.moveCenter(QRectF(place).center());
-    painter.drawImage(area.topLeft(), image);
-    return;
-  }
-  const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
-  option.icon.paint(&painter, place, Qt::AlignCenter, isEnabled ? QIcon::Normal : QIcon::Disabled);
-}
-
 void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, QRect &text,
-              const QWidget *menu, const QColor &color) {
+              const QColor &color) {
   const int side = option.fontMetrics.height();
   if (option.menuHasCheckableItems) {
     if (option.checked) {
@@ -86,7 +63,9 @@ void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, QRect &text
   }
   if (option.maxIconWidth > 0) {
     const QRect place(text.left(), text.center().y() - side / 2, side, side);
-    drawIcon(painter, option, place, menu, color);
+    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
+    option.icon.paint(&painter, place, Qt::AlignCenter,
+                      isEnabled ? QIcon::Normal : QIcon::Disabled);
     text.setLeft(place.right() + 1 + iconSpacing);
   }
 }
@@ -118,7 +97,7 @@ void drawItem(QPainter &painter, const QStyleOptionMenuItem &option, const QWidg
   painter.drawRoundedRect(option.rect, highlightRadius, highlightRadius);
 
   QRect text = option.rect.adjusted(sidePadding, 0, -sidePadding, 0);
-  drawMark(painter, option, text, menu, colors.text);
+  drawMark(painter, option, text, colors.text);
   painter.setFont(fontOf(option));
   painter.setPen(colors.text);
   const QString label = option.text.section(u'\t', 0, 0);

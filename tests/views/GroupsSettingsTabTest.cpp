@@ -1,5 +1,6 @@
 #include "Views/Settings/GroupEditorView.h"
 #include "Views/Settings/ItemEditorView.h"
+#include "Views/Style/SystemColors.h"
 #include "views/GroupsTabTest.h"
 
 #include <QtWidgets/QScrollBar>
@@ -173,6 +174,53 @@ TEST_F(GroupsSettingsTabTest, AnItemThatGoes_LeavesTheListWhereItWasScrolled) {
   state->deleteItem(items.back().id);
   QCoreApplication::processEvents();
   EXPECT_EQ(itemList().verticalScrollBar()->value(), 600);
+}
+
+TEST_F(GroupsSettingsTabTest, ABrokenItem_IsMarked) {
+  const auto isMarked = [this] {
+    const QColor yellow = systemColor(SystemColor::yellow, tab->palette());
+    const QImage row = itemList().viewport()->grab(rowRect(itemList(), 0)).toImage();
+    for (int y = 0; y < row.height(); ++y) {
+      for (int x = row.width() / 2; x < row.width(); ++x) {
+        if (row.pixelColor(x, y) == yellow) {
+          return true;
+        }
+      }
+    }
+    return false;
+  };
+  report.type = ItemType::file;
+  report.path = home.dataFile();
+  show({work}, {report});
+  click(groupList(), 0);
+  EXPECT_FALSE(isMarked());
+  report.path += u'x';
+  state->updateItem(report);
+  EXPECT_TRUE(isMarked());
+}
+
+TEST_F(GroupsSettingsTabTest, Rows_GrowWithTheUsersFont) {
+  const QFont before = QApplication::font();
+  show();
+  click(groupList(), 0);
+  const int groupHeight = rowRect(groupList(), 0).height();
+  const int itemHeight = rowRect(itemList(), 0).height();
+  QFont large = before;
+  large.setPointSizeF(before.pointSizeF() * 2);
+  QApplication::setFont(large);
+  QCoreApplication::processEvents();
+  EXPECT_GT(rowRect(groupList(), 0).height(), groupHeight);
+  EXPECT_GT(rowRect(itemList(), 0).height(), itemHeight);
+  QApplication::setFont(before);
+}
+
+TEST_F(GroupsSettingsTabTest, TheSelection_ShowsWhereKeysWouldGo) {
+  show();
+  click(groupList(), 0);
+  groupList().setFocus();
+  const QImage withKeys = groupList().grab(rowRect(groupList(), 0)).toImage();
+  button(u"Add Item"_s).setFocus();
+  EXPECT_NE(groupList().grab(rowRect(groupList(), 0)).toImage(), withKeys);
 }
 
 TEST_F(GroupsSettingsTabTest, ALongNameOfAGroup_LeavesTheWindowAsItIs) {

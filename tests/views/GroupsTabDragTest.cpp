@@ -269,6 +269,19 @@ TEST_F(GroupsTabDragTest, APress_StartsADragOnlyAfterTheDistance) {
   EXPECT_EQ(shown(itemList()), (QStringList{u"Report"_s, u"Notes"_s, u"Plan"_s}));
 }
 
+TEST_F(GroupsTabDragTest, AnotherButton_DragsNothing) {
+  show();
+  click(groupList(), 0);
+  QWidget *viewport = itemList().viewport();
+  const QPoint place = middleOf(itemList(), 0);
+  QTest::mousePress(viewport, Qt::MiddleButton, {}, place);
+  for (int moved = 10; moved < 50; moved += 10) {
+    QTest::mouseMove(viewport, place + QPoint(0, moved));
+  }
+  EXPECT_EQ(itemList().findChild<QDrag *>(), nullptr);
+  QTest::mouseRelease(viewport, Qt::MiddleButton, {}, place + QPoint(0, 50));
+}
+
 TEST_F(GroupsTabDragTest, ThePictureOfADrag_IsTheRow) {
   show();
   click(groupList(), 0);

@@ -11,7 +11,10 @@ namespace {
 
 constexpr int margin = 24;    // logical pixels
 constexpr int interval = 16;  // milliseconds
-constexpr int pixelsPerStep = 3;
+constexpr int slowest = 1;    // logical pixels an interval
+constexpr int fastest = 120;
+constexpr int depthPerPixel = 3;
+constexpr int intervalsToDouble = 30;
 
 }  // namespace
 
@@ -22,6 +25,7 @@ void EdgeScroller::follow(const QPoint &position) {
   if (step() == 0) {
     m_timer.stop();
   } else if (!m_timer.isActive()) {
+    m_intervals = 0;
     m_timer.start(interval, this);
   }
 }
@@ -34,13 +38,15 @@ int EdgeScroller::step() const {
   if (depth <= 0) {
     return 0;
   }
-  const int pixels = 1 + depth / pixelsPerStep;
+  const int start = slowest + depth / depthPerPixel;
+  const int pixels = std::min(start + start * m_intervals / intervalsToDouble, fastest);
   return above > below ? -pixels : pixels;
 }
 
 void EdgeScroller::timerEvent(QTimerEvent * /*event*/) {
   QScrollBar *bar = m_area.verticalScrollBar();
   const int before = bar->value();
+  ++m_intervals;
   bar->setValue(before + step());
   if (bar->value() == before) {
     m_timer.stop();

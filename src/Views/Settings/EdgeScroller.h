@@ -8,8 +8,8 @@ class QAbstractScrollArea;
 
 namespace lanternix {
 
-/// Scrolls an area while a drag rests near its upper or lower edge, the faster the nearer. Its
-/// timer runs only as long as there is something left to scroll to.
+/// Scrolls an area while a drag rests near its upper or lower edge, the faster the nearer and
+/// the longer. Its timer runs only as long as there is something left to scroll to.
 class EdgeScroller : public QObject {
   Q_OBJECT
 
@@ -30,6 +30,7 @@ class EdgeScroller : public QObject {
   QAbstractScrollArea &m_area;
   QBasicTimer m_timer;
   QPoint m_position;
+  int m_intervals = 0;  ///< since it rests at the edge
 };
 
 }  // namespace lanternix

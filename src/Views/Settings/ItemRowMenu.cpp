@@ -1,9 +1,10 @@
 #include "Views/Settings/ItemRowMenu.h"
 
 #include "App/AppState.h"
+#include "Views/Style/AccentFill.h"
 #include "Views/Style/DisplayText.h"
-#include "Views/Style/FillStyle.h"
 #include "Views/Style/Symbol.h"
+#include "Views/Style/SystemColors.h"
 
 #include <algorithm>
 #include <vector>
@@ -19,6 +20,18 @@ constexpr double widestName = 300;
 /// A name as an entry: a single "&" would underline what follows, a tab begin a shortcut.
 QString entryText(const QString &name, const QFont &font) {
   return DisplayText::elided(name, font, Qt::ElideMiddle, widestName).replace(u'&', u"&&"_s);
+}
+
+/// The group's symbol in its colour, on the entry under the pointer in that of the text.
+QIcon iconOf(const PathGroup &group, const QWidget &menu) {
+  const QPalette &palette = menu.palette();
+  const auto picture = [&](const QColor &color) {
+    return QPixmap::fromImage(Symbol::image(group.iconName, Symbol::sideFor(menu.font()), color,
+                                            menu.devicePixelRatioF()));
+  };
+  QIcon icon(picture(systemColor(group.color(), palette)));
+  icon.addPixmap(picture(AccentFill::of(palette).text), QIcon::Selected);
+  return icon;
 }
 
 }  // namespace
@@ -58,14 +71,11 @@ void ItemRowMenu::addGroups(const PathItem &item) {
   }
   std::ranges::stable_sort(others, {}, &PathGroup::order);
   QMenu *menu = addMenu(u"Move to Group"_s);
-  const double side = Symbol::sideFor(font());
   for (const PathGroup *group : others) {
     QAction *action = menu->addAction(
         entryText(group->name, font()), this,
         [this, itemId = item.id, groupId = group->id] { m_appState.moveItem(itemId, groupId); });
-    action->setIcon(QPixmap::fromImage(Symbol::image(
-        group->iconName, side, fillColor(FillStyle::primary, palette()), devicePixelRatioF())));
-    action->setProperty("template", true);  // drawn in the colour of the text
+    action->setIcon(iconOf(*group, *this));
   }
 }
 

@@ -78,6 +78,10 @@ void RecordListView::restoreSelection() {
     const std::optional<int> place = m_vacatedRow;
     note({});
     m_vacatedRow = place;
+    if (place.has_value() && m_model.rowCount() > 0) {
+      const QModelIndex next = m_model.index(std::min(*place, m_model.rowCount() - 1));
+      selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
+    }
   }
 }
 
@@ -92,6 +96,13 @@ void RecordListView::mousePressEvent(QMouseEvent *event) {
   m_pressPosition = event->position().toPoint();
   QListView::mousePressEvent(event);
   countClick(*event);
+}
+
+void RecordListView::mouseMoveEvent(QMouseEvent *event) {
+  // The toolkit would drag with any button.
+  if (event->buttons() == Qt::LeftButton || event->buttons() == Qt::NoButton) {
+    QListView::mouseMoveEvent(event);
+  }
 }
 
 void RecordListView::mouseDoubleClickEvent(QMouseEvent *event) {

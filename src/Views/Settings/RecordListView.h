@@ -51,6 +51,7 @@ class RecordListView : public QListView {
   void contextMenuEvent(QContextMenuEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
   void mouseDoubleClickEvent(QMouseEvent *event) override;
+  void mouseMoveEvent(QMouseEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
   void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
 

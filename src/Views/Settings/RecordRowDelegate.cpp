@@ -84,6 +84,12 @@ QColor RecordRowDelegate::paintGround(QPainter &painter, const QStyleOptionViewI
     // The accent colour says that keys would reach the row.
     fill(m_view.hasFocus() ? accent : fillColor(FillStyle::quaternary, option.palette));
   }
+  if (option.state.testFlag(QStyle::State_HasFocus) && m_view.selectedId() == std::nullopt) {
+    // Where the arrow keys would begin.
+    painter.setPen(QPen(accentColor(option.palette), 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(shape.adjusted(0.5, 0.5, -0.5, -0.5), groundRadius, groundRadius);
+  }
   const std::optional<QUuid> &target = m_view.dragTargetId();
   if (target.has_value() && index.data(RecordListModel::IdRole).toUuid() == *target) {
     fill(accent);

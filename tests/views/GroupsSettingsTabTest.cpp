@@ -170,8 +170,13 @@ TEST_F(GroupsSettingsTabTest, AnItemThatGoes_LeavesTheListWhereItWasScrolled) {
   }
   show({work}, items);
   click(groupList(), 0);
+  click(itemList(), 0);
   itemList().verticalScrollBar()->setValue(600);
   state->deleteItem(items.back().id);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(itemList().verticalScrollBar()->value(), 600);
+  EXPECT_EQ(tab->selectedItemId(), items.front().id);
+  state->deleteItem(items.front().id);
   QCoreApplication::processEvents();
   EXPECT_EQ(itemList().verticalScrollBar()->value(), 600);
 }

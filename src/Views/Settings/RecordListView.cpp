@@ -70,6 +70,8 @@ void RecordListView::rememberPlace() {
 
 // The toolkit forgets the selection of a model that starts anew, without a word.
 void RecordListView::restoreSelection() {
+  // Nor does the list jump to the selected row when another one comes or goes.
+  setAutoScroll(false);
   const std::optional<QUuid> id = m_selectedId;
   const int row = id.has_value() ? m_model.rowOf(*id) : -1;
   if (row >= 0) {
@@ -83,6 +85,7 @@ void RecordListView::restoreSelection() {
       selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
     }
   }
+  setAutoScroll(true);
 }
 
 void RecordListView::changeEvent(QEvent *event) {

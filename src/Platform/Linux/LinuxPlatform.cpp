@@ -1,4 +1,5 @@
 #include "Platform/Clock.h"
+#include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/BusSingleInstance.h"
 #include "Platform/Linux/GioWorkspace.h"
 #include "Platform/Linux/LockFileSingleInstance.h"
@@ -37,6 +38,7 @@ class LinuxPlatform : public Platform {
             m_workspace,   m_processLauncher,        m_clock};
   }
   SystemAppearance &systemAppearance() override { return *m_systemAppearance; }
+  LoginItem &loginItem() override { return m_loginItem; }
 
  protected:
   virtual HotkeyRegistrar &hotkeyRegistrar() = 0;
@@ -46,6 +48,7 @@ class LinuxPlatform : public Platform {
   GioWorkspace m_workspace;
   SpawnProcessLauncher m_processLauncher;
   SystemClock m_clock;
+  AutostartLoginItem m_loginItem{m_fileManager, QCoreApplication::applicationFilePath()};
   const std::unique_ptr<SystemAppearance> m_systemAppearance = makeSystemAppearance();
 };
 

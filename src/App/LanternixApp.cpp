@@ -4,11 +4,14 @@
 #include "App/AppearanceFollower.h"
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
+#include "Platform/TerminationMonitor.h"
 #include "Platform/WindowSystem.h"
+#include "Views/MenuBar/StatusItem.h"
 #include "Views/Panel/PanelAccessibility.h"
 #include "Views/Style/ApplicationIcon.h"
 #include "Views/Style/LanternixStyle.h"
 
+#include <QtGui/QSessionManager>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -18,6 +21,21 @@ using namespace Qt::StringLiterals;
 namespace lanternix {
 
 namespace {
+
+/// Whoever ends the program, ends it: the usual way would ask every window, and the panel, which is
+/// hidden rather than closed, would refuse.
+class Application : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool event(QEvent *event) override {
+    if (event->type() == QEvent::Quit) {
+      exit(EXIT_SUCCESS);
+      return true;
+    }
+    return QApplication::event(event);
+  }
+};
 
 // Qt ends a program that finds no display by aborting it; a sentence serves people better.
 bool hasDisplay() {
@@ -29,6 +47,23 @@ void followCompositing(const WindowSystem &windowSystem, LanternixStyle &style) 
   const auto apply = [&windowSystem, &style] { style.setSoftEdges(windowSystem.isComposited()); };
   QObject::connect(&windowSystem, &WindowSystem::compositingChanged, &style, apply);
   apply();
+}
+
+std::unique_ptr<StatusItem> makeStatusItem(AppDelegate &delegate, Platform &platform) {
+  auto item = std::make_unique<StatusItem>(delegate.appState(), platform.systemTray());
+  QObject::connect(item.get(), &StatusItem::quitRequested, QCoreApplication::instance(),
+                   &QCoreApplication::quit);
+  return item;
+}
+
+/// Ends the event loop, and with it the program, when the system wants that.
+void followTermination(const Application &application, const TerminationMonitor &monitor) {
+  QObject::connect(&monitor, &TerminationMonitor::terminationRequested, &application,
+                   &QCoreApplication::quit);
+  // Whether the program starts at login is for the login item alone to say.
+  QObject::connect(
+      &application, &QGuiApplication::saveStateRequest, &application,
+      [](QSessionManager &session) { session.setRestartHint(QSessionManager::RestartNever); });
 }
 
 }  // namespace
@@ -44,7 +79,9 @@ int LanternixApp::run(int argc, char **argv) {
   QApplication::setStyle(style);
   // The program takes no options, so Qt's own are not offered either.
   int count = qMin(argc, 1);
-  const QApplication application(count, argv);
+  const Application application(count, argv);
+  const std::unique_ptr<TerminationMonitor> termination = makeTerminationMonitor();
+  followTermination(application, *termination);
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(applicationIcon());
   PanelAccessibility::install();
@@ -60,6 +97,10 @@ int LanternixApp::run(int argc, char **argv) {
   QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
                    &AppDelegate::showPanel);
   delegate.applicationDidFinishLaunching();
+  std::unique_ptr<StatusItem> statusItem;
+  // When the program can be used already.
+  QMetaObject::invokeMethod(
+      &delegate, [&] { statusItem = makeStatusItem(delegate, *platform); }, Qt::QueuedConnection);
   return QApplication::exec();
 }
 

@@ -6,4 +6,8 @@ SystemTray::Kind NullSystemTray::kind() const {
   return Kind::none;
 }
 
+bool NullSystemTray::isAlwaysDark() const {
+  return false;
+}
+
 }  // namespace lanternix

@@ -23,6 +23,9 @@ class SystemTray : public QObject {
   /// What is there as far as it is known by now. The first answer may come as a change.
   virtual Kind kind() const = 0;
 
+  /// Whether the tray is known to be dark, whatever the windows look like.
+  virtual bool isAlwaysDark() const = 0;
+
  Q_SIGNALS:
   void changed();
 };
@@ -34,6 +37,7 @@ class NullSystemTray : public SystemTray {
  public:
   using SystemTray::SystemTray;
   Kind kind() const override;
+  bool isAlwaysDark() const override;
 };
 
 }  // namespace lanternix

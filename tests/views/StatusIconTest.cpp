@@ -4,7 +4,6 @@
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
-#include <QtWidgets/QApplication>
 
 #include <gtest/gtest.h>
 
@@ -13,22 +12,20 @@ namespace {
 
 class StatusIconTest : public testing::TestWithParam<int> {
  protected:
-  ~StatusIconTest() override { QApplication::setPalette(m_before); }
-
-  static void setWindows(Qt::GlobalColor window, Qt::GlobalColor text) {
+  static QPalette windows(Qt::GlobalColor window, Qt::GlobalColor text) {
     QPalette palette;
     palette.setColor(QPalette::Window, window);
     palette.setColor(QPalette::WindowText, text);
-    QApplication::setPalette(palette);
+    return palette;
   }
 
   /// The best contrast that any part of the icon has on a bar of this colour.
-  static double contrastOn(const QColor &bar) {
+  static double contrastOn(const QColor &bar, const QPalette &palette) {
     const int side = GetParam();
     QImage picture(side, side, QImage::Format_RGB32);
     picture.fill(bar);
     QPainter painter(&picture);
-    statusIcon().paint(&painter, picture.rect());
+    statusIcon(palette).paint(&painter, picture.rect());
     painter.end();
     double best = 1;
     for (int y = 0; y < side; ++y) {
@@ -38,27 +35,24 @@ class StatusIconTest : public testing::TestWithParam<int> {
     }
     return best;
   }
-
- private:
-  QPalette m_before = QApplication::palette();
 };
 
 TEST_P(StatusIconTest, Icon_IsThereInItsSize) {
   const QSize size(GetParam(), GetParam());
-  EXPECT_TRUE(statusIcon().availableSizes().contains(size));
-  EXPECT_EQ(statusIcon().pixmap(size, 1).size(), size);
+  EXPECT_TRUE(statusIcon(QPalette()).availableSizes().contains(size));
+  EXPECT_EQ(statusIcon(QPalette()).pixmap(size, 1).size(), size);
 }
 
 TEST_P(StatusIconTest, AmongLightWindows_IsSeenOnLightAndDarkBars) {
-  setWindows(Qt::white, Qt::black);
-  EXPECT_GT(contrastOn(Qt::white), 10);
-  EXPECT_GT(contrastOn(Qt::black), 3);
+  const QPalette palette = windows(Qt::white, Qt::black);
+  EXPECT_GT(contrastOn(Qt::white, palette), 10);
+  EXPECT_GT(contrastOn(Qt::black, palette), 3);
 }
 
 TEST_P(StatusIconTest, AmongDarkWindows_IsSeenOnLightAndDarkBars) {
-  setWindows(Qt::black, Qt::white);
-  EXPECT_GT(contrastOn(Qt::black), 10);
-  EXPECT_GT(contrastOn(Qt::white), 3);
+  const QPalette palette = windows(Qt::black, Qt::white);
+  EXPECT_GT(contrastOn(Qt::black, palette), 10);
+  EXPECT_GT(contrastOn(Qt::white, palette), 3);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, StatusIconTest, testing::Values(16, 22, 24, 32, 48, 64));

@@ -12,6 +12,7 @@ namespace {
 class FakeSystemTray final : public SystemTray {
  public:
   Kind kind() const override { return m_kind; }
+  bool isAlwaysDark() const override { return false; }
   void become(Kind kind) {
     m_kind = kind;
     Q_EMIT changed();

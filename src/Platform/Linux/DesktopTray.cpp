@@ -3,9 +3,14 @@
 #include "Platform/Linux/StatusNotifierHost.h"
 #include "Platform/Linux/X11SelectionWatch.h"
 
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
 #include <utility>
 
 namespace lanternix {
+
+using namespace Qt::StringLiterals;
 
 DesktopTray::DesktopTray(std::unique_ptr<StatusNotifierHost> host,
                          std::unique_ptr<X11SelectionWatch> embedder)
@@ -29,6 +34,11 @@ SystemTray::Kind DesktopTray::kind() const {
   const bool isEmbedder =
       presence == StatusNotifierHost::Presence::absent && m_embedder && m_embedder->isOwned();
   return isEmbedder ? Kind::embedding : Kind::none;
+}
+
+bool DesktopTray::isAlwaysDark() const {
+  // The bar of GNOME Shell is dark in its light appearance too; no setting tells so.
+  return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains("GNOME"_L1);
 }
 
 }  // namespace lanternix

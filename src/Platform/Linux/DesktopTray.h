@@ -22,6 +22,7 @@ class DesktopTray : public SystemTray {
   ~DesktopTray() override;
 
   Kind kind() const override;
+  bool isAlwaysDark() const override;
 
  private:
   const std::unique_ptr<StatusNotifierHost> m_host;

@@ -2,7 +2,6 @@
 
 #include "Views/Style/Symbol.h"
 
-#include <QtGui/QGuiApplication>
 #include <QtGui/QIconEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
@@ -34,19 +33,20 @@ QImage rim(double side, const QColor &color, double ratio) {
 
 class StatusIconEngine : public QIconEngine {
  public:
+  StatusIconEngine(const QColor &symbolColor, const QColor &rimColor)
+      : m_symbolColor(symbolColor), m_rimColor(rimColor) {}
+
   void paint(QPainter *painter, const QRect &area, QIcon::Mode /*mode*/,
              QIcon::State /*state*/) override {
-    const QPalette palette = QGuiApplication::palette();
     const double ratio = painter->device()->devicePixelRatioF();
     const int side = qMin(area.width(), area.height());
     const QPoint corner =
         QRect(area.center() - QPoint(side - 1, side - 1) / 2, QSize(side, side)).topLeft();
     painter->save();
     painter->setOpacity(rimOpacity);
-    painter->drawImage(corner, rim(side, palette.color(QPalette::Window), ratio));
+    painter->drawImage(corner, rim(side, m_rimColor, ratio));
     painter->setOpacity(1);
-    painter->drawImage(corner,
-                       Symbol::image(symbol, side, palette.color(QPalette::WindowText), ratio));
+    painter->drawImage(corner, Symbol::image(symbol, side, m_symbolColor, ratio));
     painter->restore();
   }
 
@@ -66,13 +66,20 @@ class StatusIconEngine : public QIconEngine {
     return sizes;
   }
 
-  QIconEngine *clone() const override { return new StatusIconEngine; }  // the icon's
+  QIconEngine *clone() const override {
+    return new StatusIconEngine(m_symbolColor, m_rimColor);  // owned by the icon
+  }
+
+ private:
+  QColor m_symbolColor;
+  QColor m_rimColor;
 };
 
 }  // namespace
 
-QIcon statusIcon() {
-  return QIcon(new StatusIconEngine);  // owned by the icon
+QIcon statusIcon(const QPalette &palette) {
+  return QIcon(new StatusIconEngine(palette.color(QPalette::WindowText),
+                                    palette.color(QPalette::Window)));  // owned by the icon
 }
 
 }  // namespace lanternix

@@ -2,9 +2,12 @@
 
 #include "Platform/SystemTray.h"
 #include "Views/MenuBar/StatusIcon.h"
+#include "Views/Style/Palettes.h"
 
 #include <QtCore/QEvent>
 #include <QtGui/QCursor>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QPalette>
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +29,7 @@ void StatusItem::showWhereThereIsATray() {
   }
   m_menu = makeMenu(MenuBarView::DrawnBy::program);
   m_menu->installEventFilter(this);
-  m_icon = std::make_unique<QSystemTrayIcon>(statusIcon());
+  m_icon = std::make_unique<QSystemTrayIcon>(icon());
   m_icon->setToolTip(u"Lanternix"_s);
   if (kind == SystemTray::Kind::drawing) {
     m_sentMenu = makeMenu(MenuBarView::DrawnBy::desktop);
@@ -34,6 +37,10 @@ void StatusItem::showWhereThereIsATray() {
   }
   connect(m_icon.get(), &QSystemTrayIcon::activated, this, &StatusItem::openMenu);
   m_icon->show();
+}
+
+QIcon StatusItem::icon() const {
+  return statusIcon(m_systemTray.isAlwaysDark() ? Palettes::dark() : QGuiApplication::palette());
 }
 
 std::unique_ptr<MenuBarView> StatusItem::makeMenu(MenuBarView::DrawnBy drawnBy) {
@@ -51,7 +58,7 @@ void StatusItem::openMenu(QSystemTrayIcon::ActivationReason reason) {
 
 bool StatusItem::eventFilter(QObject *watched, QEvent *event) {
   if (watched == m_menu.get() && event->type() == QEvent::PaletteChange && m_icon) {
-    m_icon->setIcon(statusIcon());
+    m_icon->setIcon(icon());
   }
   return false;
 }

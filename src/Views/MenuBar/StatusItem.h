@@ -27,6 +27,7 @@ class StatusItem : public QObject {
 
  private:
   void showWhereThereIsATray();
+  QIcon icon() const;
   std::unique_ptr<MenuBarView> makeMenu(MenuBarView::DrawnBy drawnBy);
   void openMenu(QSystemTrayIcon::ActivationReason reason);
 

@@ -11,6 +11,7 @@
 #include "Views/Style/ApplicationIcon.h"
 #include "Views/Style/LanternixStyle.h"
 
+#include <QtGui/QPixmapCache>
 #include <QtGui/QSessionManager>
 #include <QtWidgets/QApplication>
 
@@ -83,6 +84,8 @@ int LanternixApp::run(int argc, char **argv) {
   const std::unique_ptr<TerminationMonitor> termination = makeTerminationMonitor();
   followTermination(application, *termination);
   QApplication::setQuitOnLastWindowClosed(false);
+  // Its clean-up runs on a timer, which would wake the program while the panel is hidden.
+  QPixmapCache::setCacheLimit(0);
   QApplication::setWindowIcon(applicationIcon());
   PanelAccessibility::install();
 

@@ -67,6 +67,21 @@ void followTermination(const Application &application, const TerminationMonitor 
       [](QSessionManager &session) { session.setRestartHint(QSessionManager::RestartNever); });
 }
 
+/// The session's one program, until its end.
+int runShell(const SingleInstance &instance, LanternixStyle &style) {
+  const std::unique_ptr<Platform> platform = Platform::create();
+  followCompositing(platform->windowSystem(), style);
+  const AppearanceFollower appearance(platform->systemAppearance(), style);
+  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
+  QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showPanel);
+  delegate.applicationDidFinishLaunching();
+  std::unique_ptr<StatusItem> statusItem;
+  // Queued: a tray can wait until the program answers its shortcut.
+  QMetaObject::invokeMethod(
+      &delegate, [&] { statusItem = makeStatusItem(delegate, *platform); }, Qt::QueuedConnection);
+  return QApplication::exec();
+}
+
 }  // namespace
 
 int LanternixApp::run(int argc, char **argv) {
@@ -93,18 +108,7 @@ int LanternixApp::run(int argc, char **argv) {
   if (!instance->claim()) {
     return 0;
   }
-  const std::unique_ptr<Platform> platform = Platform::create();
-  followCompositing(platform->windowSystem(), *style);
-  const AppearanceFollower appearance(platform->systemAppearance(), *style);
-  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
-  QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
-                   &AppDelegate::showPanel);
-  delegate.applicationDidFinishLaunching();
-  std::unique_ptr<StatusItem> statusItem;
-  // When the program can be used already.
-  QMetaObject::invokeMethod(
-      &delegate, [&] { statusItem = makeStatusItem(delegate, *platform); }, Qt::QueuedConnection);
-  return QApplication::exec();
+  return runShell(*instance, *style);
 }
 
 }  // namespace lanternix

@@ -56,7 +56,8 @@ int LanternixApp::run(int argc, char **argv) {
   const std::unique_ptr<Platform> platform = Platform::create();
   followCompositing(platform->windowSystem(), *style);
   const AppearanceFollower appearance(platform->systemAppearance(), *style);
-  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
+  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor(),
+                       platform->loginItem());
   QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
                    &AppDelegate::showPanel);
   delegate.applicationDidFinishLaunching();

@@ -7,6 +7,7 @@
 namespace lanternix {
 
 class GlobalMouseMonitor;
+class LoginItem;
 class SingleInstance;
 class SystemAppearance;
 class WindowSystem;
@@ -24,6 +25,7 @@ class Platform {
   virtual WindowSystem &windowSystem() = 0;
   virtual GlobalMouseMonitor &mouseMonitor() = 0;
   virtual SystemAppearance &systemAppearance() = 0;
+  virtual LoginItem &loginItem() = 0;
 };
 
 /// The guard of the session's one program. Apart from the others, because it is asked before

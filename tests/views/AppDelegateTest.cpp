@@ -1,6 +1,7 @@
 #include "App/AppDelegate.h"
 #include "Platform/GlobalMouseMonitor.h"
 #include "Platform/Linux/QtWindowSystem.h"
+#include "Platform/LoginItem.h"
 #include "Services/Preferences.h"
 #include "Utilities/FloatingPanel.h"
 #include "Views/Panel/PopupPanelView.h"
@@ -36,7 +37,7 @@ class AppDelegateTest : public ViewTest {
   /// Starts the program's own logic and shows the panel.
   void start() {
     writeData({work}, {report, notes});
-    delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor);
+    delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
     delegate->applicationDidFinishLaunching();
     delegate->showPanel();
     ASSERT_NE(panel(), nullptr);
@@ -82,13 +83,14 @@ class AppDelegateTest : public ViewTest {
   PathItem notes = item(QStringLiteral("Notes"), work, 1, QStringLiteral("edit notes"));
   QtWindowSystem windowSystem;
   FakeMouseMonitor mouseMonitor;
+  NullLoginItem loginItem;
   std::unique_ptr<AppDelegate> delegate;
 };
 
 }  // namespace
 
 TEST_F(AppDelegateTest, ThePanel_ShowsItselfAfterTheStart) {
-  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor);
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
   delegate->applicationDidFinishLaunching();
   EXPECT_FALSE(panel()->isVisible());
   EXPECT_TRUE(QTest::qWaitFor([] { return panel()->isVisible(); }));
@@ -96,7 +98,7 @@ TEST_F(AppDelegateTest, ThePanel_ShowsItselfAfterTheStart) {
 }
 
 TEST_F(AppDelegateTest, BeforeTheStart_ThereIsNothingToShow) {
-  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor);
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
   delegate->showPanel();
   EXPECT_EQ(panel(), nullptr);
   EXPECT_FALSE(delegate->appState().isPanelVisible());

@@ -12,6 +12,7 @@
 #include "Platform/Linux/X11Server.h"
 #include "Platform/Linux/X11WindowSystem.h"
 #include "Platform/Linux/XInputMouseMonitor.h"
+#include "Platform/LoginItem.h"
 #include "Platform/Platform.h"
 #include "Platform/UserDefaults.h"
 
@@ -37,6 +38,7 @@ class LinuxPlatform : public Platform {
             m_workspace,   m_processLauncher,        m_clock};
   }
   SystemAppearance &systemAppearance() override { return *m_systemAppearance; }
+  LoginItem &loginItem() override { return m_loginItem; }
 
  protected:
   virtual HotkeyRegistrar &hotkeyRegistrar() = 0;
@@ -46,6 +48,7 @@ class LinuxPlatform : public Platform {
   GioWorkspace m_workspace;
   SpawnProcessLauncher m_processLauncher;
   SystemClock m_clock;
+  NullLoginItem m_loginItem;
   const std::unique_ptr<SystemAppearance> m_systemAppearance = makeSystemAppearance();
 };
 

@@ -95,7 +95,7 @@ void AppDelegate::showPanel() {
 }
 
 void AppDelegate::openSettings() {
-  if (m_panel->isVisible()) {
+  if (m_panel && m_panel->isVisible()) {
     m_appState.hidePanel();
   }
   if (!m_settings) {

@@ -108,11 +108,11 @@ void GeneralSettingsTab::showEvent(QShowEvent *event) {
 }
 
 // The desktop's own settings may have changed it while the user was there.
-void GeneralSettingsTab::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::ActivationChange && isVisible() && isActiveWindow()) {
+bool GeneralSettingsTab::event(QEvent *event) {
+  if (event->type() == QEvent::WindowActivate) {
     readLoginItem();
   }
-  FormView::changeEvent(event);
+  return FormView::event(event);
 }
 
 }  // namespace lanternix

@@ -19,7 +19,7 @@ class GeneralSettingsTab : public FormView {
 
  protected:
   void showEvent(QShowEvent *event) override;
-  void changeEvent(QEvent *event) override;
+  bool event(QEvent *event) override;
 
  private:
   void addShortcut();

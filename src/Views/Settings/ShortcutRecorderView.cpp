@@ -13,6 +13,8 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
@@ -134,10 +136,15 @@ bool ShortcutRecorderView::handleRelease(const QKeyEvent &release) {
   return true;
 }
 
-void ShortcutRecorderView::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::ActivationChange && !isActiveWindow()) {
+bool ShortcutRecorderView::event(QEvent *event) {
+  if (event->type() == QEvent::WindowDeactivate) {
     stopRecording();
-  } else if (event->type() == QEvent::FontChange) {
+  }
+  return QAbstractButton::event(event);
+}
+
+void ShortcutRecorderView::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::FontChange) {
     updateGeometry();
   }
   QAbstractButton::changeEvent(event);
@@ -171,8 +178,11 @@ int ShortcutRecorderView::symbolWidth() const {
 QSize ShortcutRecorderView::sizeHint() const {
   const QFontMetrics metrics(labelFont());
   const int symbol = m_isRecording ? symbolWidth() + spacing : 0;
+  // Two fonts take turns, and the form around must not jump.
+  const int lineHeight =
+      std::max(metrics.height(), QFontMetrics(textFont(TextStyle::subheadline)).height());
   return {metrics.horizontalAdvance(text()) + symbol + 2 * sidePadding,
-          metrics.height() + 2 * linePadding};
+          lineHeight + 2 * linePadding};
 }
 
 QColor ShortcutRecorderView::tint() const {

@@ -30,6 +30,7 @@ class ShortcutRecorderView : public QAbstractButton {
   bool eventFilter(QObject *watched, QEvent *event) override;
 
  protected:
+  bool event(QEvent *event) override;
   void changeEvent(QEvent *event) override;
   void hideEvent(QHideEvent *event) override;
   void paintEvent(QPaintEvent *event) override;

@@ -155,6 +155,19 @@ TEST_F(GeneralSettingsTabTest, ASizeChosen_IsSetAndSurvivesARestart) {
   EXPECT_TRUE(segment(u"Large"_s)->isChecked());
 }
 
+TEST_F(GeneralSettingsTabTest, TheTabKey_StopsAtTheSizeThatIsChosen) {
+  EXPECT_TRUE(segment(u"Medium"_s)->focusPolicy() & Qt::TabFocus);
+  EXPECT_FALSE(segment(u"Small"_s)->focusPolicy() & Qt::TabFocus);
+  EXPECT_FALSE(segment(u"Large"_s)->focusPolicy() & Qt::TabFocus);
+  tab->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(tab.get()));
+  segment(u"Medium"_s)->setFocus();
+  QTest::keyClick(segment(u"Medium"_s), Qt::Key_Right);
+  EXPECT_EQ(state->panelItemSize(), PanelItemSize::large);
+  EXPECT_TRUE(segment(u"Large"_s)->focusPolicy() & Qt::TabFocus);
+  EXPECT_FALSE(segment(u"Medium"_s)->focusPolicy() & Qt::TabFocus);
+}
+
 TEST_F(GeneralSettingsTabTest, ThePicker_FollowsChangesFromElsewhere) {
   EXPECT_TRUE(segment(u"Medium"_s)->isChecked());
   state->setPanelItemSize(PanelItemSize::small);

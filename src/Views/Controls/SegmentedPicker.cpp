@@ -68,9 +68,18 @@ SegmentedPicker::SegmentedPicker(const QString &name, const QStringList &texts, 
   }
   connect(m_buttons, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
     if (checked) {
+      letTabStopAt(id);
       Q_EMIT currentIndexChanged(id);
     }
   });
+}
+
+/// Only there; within the choice the arrows do the rest.
+void SegmentedPicker::letTabStopAt(int index) {
+  const QList<QAbstractButton *> segments = m_buttons->buttons();
+  for (QAbstractButton *segment : segments) {
+    segment->setFocusPolicy(m_buttons->id(segment) == index ? Qt::StrongFocus : Qt::ClickFocus);
+  }
 }
 
 int SegmentedPicker::currentIndex() const {

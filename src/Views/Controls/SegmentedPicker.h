@@ -29,6 +29,8 @@ class SegmentedPicker : public QWidget {
   void paintEvent(QPaintEvent *event) override;
 
  private:
+  void letTabStopAt(int index);
+
   QButtonGroup *m_buttons;
 };
 

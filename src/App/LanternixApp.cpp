@@ -6,6 +6,7 @@
 #include "Platform/SingleInstance.h"
 #include "Platform/WindowSystem.h"
 #include "Views/Panel/PanelAccessibility.h"
+#include "Views/Settings/SettingsAccessibility.h"
 #include "Views/Style/ApplicationIcon.h"
 #include "Views/Style/LanternixStyle.h"
 
@@ -48,6 +49,7 @@ int LanternixApp::run(int argc, char **argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setWindowIcon(applicationIcon());
   PanelAccessibility::install();
+  SettingsAccessibility::install();
 
   const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
   if (!instance->claim()) {

@@ -3,6 +3,7 @@
 #include "Views/Settings/DataSettingsTab.h"
 #include "Views/Settings/GeneralSettingsTab.h"
 #include "Views/Settings/GroupsSettingsTab.h"
+#include "Views/Settings/SettingsAccessibility.h"
 #include "Views/Settings/SettingsTabStrip.h"
 #include "Views/Settings/SettingsView.h"
 #include "Views/Settings/ShortcutRecorderView.h"
@@ -25,6 +26,7 @@ using namespace Qt::StringLiterals;
 class SettingsViewTest : public ViewTest {
  protected:
   void SetUp() override {
+    SettingsAccessibility::install();
     state = makeState();
     view = std::make_unique<SettingsView>(*state, loginItem);
     strip = view->findChild<SettingsTabStrip *>();
@@ -160,6 +162,13 @@ TEST_F(SettingsViewTest, ATab_IsMadeWhenItIsFirstShownAndKept) {
   strip->setCurrentIndex(0);
   strip->setCurrentIndex(2);
   EXPECT_EQ(view->findChildren<DataSettingsTab *>(), QList{const_cast<DataSettingsTab *>(tab)});
+}
+
+TEST_F(SettingsViewTest, IsAWindowForScreenReaders) {
+  const QAccessibleInterface *window = QAccessible::queryAccessibleInterface(view.get());
+  ASSERT_NE(window, nullptr);
+  EXPECT_EQ(window->role(), QAccessible::Window);
+  EXPECT_EQ(window->text(QAccessible::Name), u"Lanternix Settings"_s);
 }
 
 TEST_F(SettingsViewTest, EachTab_IsAPageTabForScreenReaders) {

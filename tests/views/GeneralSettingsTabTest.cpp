@@ -145,6 +145,18 @@ TEST_F(GeneralSettingsTabTest, ThePicker_OffersEverySizeOn200Pixels) {
   EXPECT_EQ(picker()->accessibleName(), u"Item Size"_s);
 }
 
+TEST_F(GeneralSettingsTabTest, UnderALargeFont_ThePickerStillHasRoomForItsTexts) {
+  const QFont before = QApplication::font();
+  QFont larger = before;
+  larger.setPointSizeF(before.pointSizeF() * 2);
+  QApplication::setFont(larger);
+  EXPECT_TRUE(QTest::qWaitFor([this] {
+    return picker()->width() >= 3 * picker()->fontMetrics().horizontalAdvance(u"Medium"_s);
+  }));
+  QApplication::setFont(before);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return picker()->width() == 200; }));
+}
+
 TEST_F(GeneralSettingsTabTest, ASizeChosen_IsSetAndSurvivesARestart) {
   click(segment(u"Small"_s));
   EXPECT_EQ(state->panelItemSize(), PanelItemSize::small);

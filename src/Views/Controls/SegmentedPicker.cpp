@@ -9,6 +9,8 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QRadioButton>
 
+#include <algorithm>
+
 namespace lanternix {
 
 namespace {
@@ -91,6 +93,17 @@ void SegmentedPicker::setCurrentIndex(int index) {
     const QSignalBlocker blocker(this);
     button->setChecked(true);
   }
+}
+
+QSize SegmentedPicker::minimumSizeHint() const {
+  constexpr int sidePadding = 6;
+  int widest = 0;
+  const QList<QAbstractButton *> segments = m_buttons->buttons();
+  for (const QAbstractButton *segment : segments) {
+    widest = std::max(widest, fontMetrics().horizontalAdvance(segment->text()));
+  }
+  const auto count = static_cast<int>(segments.size());
+  return {count * (widest + 2 * sidePadding), QWidget::minimumSizeHint().height()};
 }
 
 void SegmentedPicker::paintEvent(QPaintEvent * /*event*/) {

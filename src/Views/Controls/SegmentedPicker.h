@@ -21,6 +21,9 @@ class SegmentedPicker : public QWidget {
   /// Says nothing by currentIndexChanged().
   void setCurrentIndex(int index);
 
+  /// Has room for every text.
+  QSize minimumSizeHint() const override;
+
  Q_SIGNALS:
   /// The user has chosen another one.
   void currentIndexChanged(int index);

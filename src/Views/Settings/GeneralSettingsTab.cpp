@@ -74,8 +74,7 @@ void GeneralSettingsTab::addPanelDisplay() {
   addSwitch(section, m_appState,
             {u"Show Recent Items"_s, &AppState::showRecentItems, &AppState::setShowRecentItems,
              &AppState::showRecentItemsChanged});
-  constexpr int pickerWidth = 200;
-  m_itemSize->setFixedWidth(pickerWidth);
+  fitItemSize();
   section.addRow(u"Item Size"_s, u"Control how compact or spacious items appear"_s, m_itemSize);
   connect(m_itemSize, &SegmentedPicker::currentIndexChanged, this, [this](int index) {
     m_appState.setPanelItemSize(allPanelItemSizes.at(static_cast<size_t>(index)));
@@ -91,6 +90,12 @@ void GeneralSettingsTab::addStartup() {
     readLoginItem();
   });
   readLoginItem();
+}
+
+void GeneralSettingsTab::fitItemSize() {
+  constexpr int pickerWidth = 200;
+  // Large fonts take more.
+  m_itemSize->setFixedWidth(std::max(pickerWidth, m_itemSize->minimumSizeHint().width()));
 }
 
 void GeneralSettingsTab::readItemSize() {
@@ -111,6 +116,8 @@ void GeneralSettingsTab::showEvent(QShowEvent *event) {
 bool GeneralSettingsTab::event(QEvent *event) {
   if (event->type() == QEvent::WindowActivate) {
     readLoginItem();
+  } else if (event->type() == QEvent::FontChange) {
+    fitItemSize();
   }
   return FormView::event(event);
 }

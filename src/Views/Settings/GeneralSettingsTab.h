@@ -25,6 +25,7 @@ class GeneralSettingsTab : public FormView {
   void addShortcut();
   void addPanelDisplay();
   void addStartup();
+  void fitItemSize();
   void readItemSize();
   void readLoginItem();
 

@@ -8,11 +8,11 @@
 #include "Views/Settings/SettingsView.h"
 #include "Views/Settings/ShortcutRecorderView.h"
 #include "Views/Style/Contrast.h"
-#include "Views/Style/FillStyle.h"
 #include "Views/Style/Palettes.h"
 #include "views/ViewTest.h"
 
 #include <QtGui/QAccessible>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
@@ -143,6 +143,13 @@ TEST_F(SettingsViewTest, OpenedAgain_ShowsTheSameTabInTheSamePlaceAndSize) {
   EXPECT_TRUE(view->isVisible());
   EXPECT_EQ(shownTab(), u"Data"_s);
   EXPECT_EQ(view->geometry(), QRect(40, 50, 650, 500));
+}
+
+TEST_F(SettingsViewTest, OpenedAgainWithoutTheScreenItWasOn_StandsOnAnother) {
+  view->setGeometry(9000, 9000, 650, 500);
+  view->close();
+  view->present();
+  EXPECT_NE(QGuiApplication::screenAt(view->geometry().center()), nullptr);
 }
 
 TEST_F(SettingsViewTest, AnotherTab_EndsTheRecordingOfAShortcut) {

@@ -7,7 +7,9 @@
 #include "Views/Settings/SettingsTabStrip.h"
 #include "Views/Style/DividerLine.h"
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QHideEvent>
+#include <QtGui/QScreen>
 #include <QtGui/QShortcut>
 #include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QVBoxLayout>
@@ -23,6 +25,13 @@ namespace {
 constexpr QSize smallestSize{600, 480};
 constexpr QSize firstSize{720, 540};
 constexpr int stripPadding = 8;
+
+/// \p position, or a corner of the primary screen when the title bar of a window of this width
+/// would be on none.
+QPoint onAScreen(QPoint position, int width) {
+  const bool isSeen = QGuiApplication::screenAt(position + QPoint(width / 2, 0)) != nullptr;
+  return isSeen ? position : QGuiApplication::primaryScreen()->availableGeometry().topLeft();
+}
 
 }  // namespace
 
@@ -91,7 +100,7 @@ void SettingsView::addKeys() {
 void SettingsView::present() {
   if (!isVisible() && m_lastPosition) {
     // Window managers place a window that is shown again anew.
-    move(*m_lastPosition);
+    move(onAScreen(*m_lastPosition, width()));
   }
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();

@@ -8,6 +8,7 @@
 #include "Platform/WindowSystem.h"
 #include "Views/MenuBar/StatusItem.h"
 #include "Views/Panel/PanelAccessibility.h"
+#include "Views/Settings/SettingsAccessibility.h"
 #include "Views/Style/ApplicationIcon.h"
 #include "Views/Style/LanternixStyle.h"
 
@@ -72,7 +73,8 @@ int runShell(const SingleInstance &instance, LanternixStyle &style) {
   const std::unique_ptr<Platform> platform = Platform::create();
   followCompositing(platform->windowSystem(), style);
   const AppearanceFollower appearance(platform->systemAppearance(), style);
-  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
+  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor(),
+                       platform->loginItem());
   QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showPanel);
   delegate.applicationDidFinishLaunching();
   std::unique_ptr<StatusItem> statusItem;
@@ -103,6 +105,7 @@ int LanternixApp::run(int argc, char **argv) {
   QPixmapCache::setCacheLimit(0);
   QApplication::setWindowIcon(applicationIcon());
   PanelAccessibility::install();
+  SettingsAccessibility::install();
 
   const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
   if (!instance->claim()) {

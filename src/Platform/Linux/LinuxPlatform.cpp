@@ -17,6 +17,7 @@
 #include "Platform/Linux/X11Server.h"
 #include "Platform/Linux/X11WindowSystem.h"
 #include "Platform/Linux/XInputMouseMonitor.h"
+#include "Platform/LoginItem.h"
 #include "Platform/Platform.h"
 #include "Platform/UserDefaults.h"
 

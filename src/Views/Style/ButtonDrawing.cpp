@@ -1,10 +1,13 @@
 #include "Views/Style/ButtonDrawing.h"
 
 #include "Views/Style/AccentFill.h"
+#include "Views/Style/Contrast.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/SystemColors.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QStyleOptionButton>
+#include <QtWidgets/QWidget>
 
 namespace lanternix::ButtonDrawing {
 
@@ -21,24 +24,39 @@ bool isProminent(const QStyleOptionButton &option) {
          option.state.testFlag(QStyle::State_Enabled);
 }
 
+bool isDestructive(const QWidget *button) {
+  return button != nullptr && button->property("destructive").toBool();
+}
+
+/// What the button is filled with when nothing happens to it.
+QColor restingGround(const QStyleOptionButton &option) {
+  return isProminent(option) ? AccentFill::of(option.palette).ground
+                             : fillColor(FillStyle::quaternary, option.palette);
+}
+
 QColor groundColor(const QStyleOptionButton &option) {
   constexpr int pressedDarkness = 115;  // percent
   constexpr int hoverDarkness = 105;
-  const QColor ground = isProminent(option) ? AccentFill::of(option.palette).ground
-                                            : fillColor(FillStyle::quaternary, option.palette);
+  const QColor ground = restingGround(option);
   if (option.state.testFlag(QStyle::State_Sunken)) {
     return ground.darker(pressedDarkness);
   }
   return option.state.testFlag(QStyle::State_MouseOver) ? ground.darker(hoverDarkness) : ground;
 }
 
-QColor textColor(const QStyleOptionButton &option) {
+QColor textColor(const QStyleOptionButton &option, const QWidget *button) {
+  if (!option.state.testFlag(QStyle::State_Enabled)) {
+    return fillColor(FillStyle::tertiary, option.palette);
+  }
   if (isProminent(option)) {
     return AccentFill::of(option.palette).text;
   }
-  return fillColor(
-      option.state.testFlag(QStyle::State_Enabled) ? FillStyle::primary : FillStyle::tertiary,
-      option.palette);
+  if (isDestructive(button)) {
+    const QColor window = option.palette.color(QPalette::Window);
+    return Contrast::readableOn(Contrast::laidOn(window, groundColor(option)),
+                                systemColor(SystemColor::red, option.palette));
+  }
+  return fillColor(FillStyle::primary, option.palette);
 }
 
 QImage tinted(const QIcon &icon, const QSize &size, double ratio, const QColor &color) {
@@ -52,7 +70,7 @@ QImage tinted(const QIcon &icon, const QSize &size, double ratio, const QColor &
 
 }  // namespace
 
-void drawButton(QPainter &painter, const QStyleOptionButton &option) {
+void drawButton(QPainter &painter, const QStyleOptionButton &option, const QWidget *button) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
@@ -72,7 +90,7 @@ void drawButton(QPainter &painter, const QStyleOptionButton &option) {
         radius + 1, radius + 1);
   }
 
-  const QColor color = textColor(option);
+  const QColor color = textColor(option, button);
   const int textWidth = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).width();
   const int iconWidth = option.icon.isNull() ? 0 : option.iconSize.width() + iconSpacing;
   QRectF text = shape;

@@ -1,13 +1,19 @@
 #include "Views/Style/LanternixStyle.h"
 
 #include "Views/Style/ButtonDrawing.h"
+#include "Views/Style/FieldDrawing.h"
 #include "Views/Style/MenuDrawing.h"
 
+#include <QtWidgets/QAbstractSpinBox>
+#include <QtWidgets/QComboBox>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QStyleHintReturnMask>
 #include <QtWidgets/QStyleOptionButton>
+#include <QtWidgets/QStyleOptionComboBox>
+#include <QtWidgets/QStyleOptionFrame>
 #include <QtWidgets/QStyleOptionMenuItem>
 #include <QtWidgets/QStyleOptionSlider>
+#include <QtWidgets/QStyleOptionSpinBox>
 
 #include <algorithm>
 
@@ -33,6 +39,19 @@ QRect scrollBarHandle(const QStyleOptionSlider &option) {
                       : QRect(0, start, option.rect.width(), length);
 }
 
+/// Whether the text field is a part of another control, which draws the field around it.
+bool isInnerField(const QWidget *field) {
+  const QWidget *parent = field != nullptr ? field->parentWidget() : nullptr;
+  return qobject_cast<const QComboBox *>(parent) != nullptr ||
+         qobject_cast<const QAbstractSpinBox *>(parent) != nullptr;
+}
+
+/// Whether it is a text field that stands for itself and has not been told to go without a frame.
+bool isFramedField(const QStyleOption *option, const QWidget *widget) {
+  const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+  return frame != nullptr && frame->lineWidth > 0 && !isInnerField(widget);
+}
+
 }  // namespace
 
 LanternixStyle::LanternixStyle() : QProxyStyle(u"Fusion"_s) {}
@@ -42,6 +61,23 @@ void LanternixStyle::polish(QWidget *widget) {
     widget->setAttribute(Qt::WA_TranslucentBackground);
   }
   QProxyStyle::polish(widget);
+}
+
+void LanternixStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                        QPainter *painter, const QWidget *widget) const {
+  if (control == CC_ComboBox) {
+    if (const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(option)) {
+      FieldDrawing::drawComboBox(*painter, *box);
+      return;
+    }
+  }
+  if (control == CC_SpinBox) {
+    if (const auto *box = qstyleoption_cast<const QStyleOptionSpinBox *>(option)) {
+      FieldDrawing::drawSpinBox(*painter, *box);
+      return;
+    }
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
 void LanternixStyle::drawControl(ControlElement element, const QStyleOption *option,
@@ -54,7 +90,7 @@ void LanternixStyle::drawControl(ControlElement element, const QStyleOption *opt
   }
   if (element == CE_PushButton) {
     if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option)) {
-      ButtonDrawing::drawButton(*painter, *button);
+      ButtonDrawing::drawButton(*painter, *button, widget);
       return;
     }
   }
@@ -72,6 +108,13 @@ void LanternixStyle::drawPrimitive(PrimitiveElement element, const QStyleOption 
       break;
     case PE_FrameMenu:
       break;  // part of the panel
+    case PE_PanelLineEdit:
+      if (isFramedField(option, widget)) {
+        FieldDrawing::drawField(*painter, *option);
+      } else if (!isInnerField(widget)) {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+      }
+      break;
     default:
       QProxyStyle::drawPrimitive(element, option, painter, widget);
   }
@@ -102,6 +145,12 @@ QSize LanternixStyle::sizeFromContents(ContentsType type, const QStyleOption *op
   if (type == CT_PushButton) {
     return ButtonDrawing::buttonSize(contents);
   }
+  if (type == CT_LineEdit && isFramedField(option, widget)) {
+    return FieldDrawing::fieldSize(*option, contents.width());
+  }
+  if (type == CT_ComboBox || type == CT_SpinBox) {
+    return FieldDrawing::steppedSize(*option, contents.width());
+  }
   return QProxyStyle::sizeFromContents(type, option, contents, widget);
 }
 
@@ -122,23 +171,39 @@ int LanternixStyle::styleHint(StyleHint hint, const QStyleOption *option, const 
   }
 }
 
+QRect LanternixStyle::subElementRect(SubElement element, const QStyleOption *option,
+                                     const QWidget *widget) const {
+  if (element == SE_LineEditContents && isFramedField(option, widget)) {
+    return FieldDrawing::textArea(option->rect);
+  }
+  return QProxyStyle::subElementRect(element, option, widget);
+}
+
 QRect LanternixStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
                                      SubControl subControl, const QWidget *widget) const {
-  const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
-  if (control != CC_ScrollBar || slider == nullptr) {
-    return QProxyStyle::subControlRect(control, option, subControl, widget);
+  if (const auto *slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
+      slider != nullptr && control == CC_ScrollBar) {
+    switch (subControl) {
+      case SC_ScrollBarSlider:
+        return scrollBarHandle(*slider);
+      case SC_ScrollBarGroove:
+        return slider->rect;
+      case SC_ScrollBarAddLine:
+      case SC_ScrollBarSubLine:
+        return {};  // no buttons
+      default:
+        break;
+    }
   }
-  switch (subControl) {
-    case SC_ScrollBarSlider:
-      return scrollBarHandle(*slider);
-    case SC_ScrollBarGroove:
-      return slider->rect;
-    case SC_ScrollBarAddLine:
-    case SC_ScrollBarSubLine:
-      return {};  // no buttons
-    default:
-      return QProxyStyle::subControlRect(control, option, subControl, widget);
+  if (const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+      box != nullptr && control == CC_ComboBox && subControl != SC_ComboBoxListBoxPopup) {
+    return FieldDrawing::partOf(*box, subControl);
   }
+  if (const auto *box = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+      box != nullptr && control == CC_SpinBox) {
+    return FieldDrawing::partOf(*box, subControl);
+  }
+  return QProxyStyle::subControlRect(control, option, subControl, widget);
 }
 
 }  // namespace lanternix

@@ -12,7 +12,8 @@ namespace lanternix {
 /// the palette and the application font.
 ///
 /// A push button that is the default one of its window is prominent: filled with the accent colour.
-/// A menu's entry whose action has the property "destructive" is red.
+/// A push button with the property "destructive" is red, and so is a menu's entry whose action has
+/// it.
 class LanternixStyle : public QProxyStyle {
   Q_OBJECT
 
@@ -26,6 +27,8 @@ class LanternixStyle : public QProxyStyle {
   void setSoftEdges(bool soft) { m_hasSoftEdges = soft; }
 
   void polish(QWidget *widget) override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                          QPainter *painter, const QWidget *widget) const override;
   void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                    const QWidget *widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
@@ -36,6 +39,8 @@ class LanternixStyle : public QProxyStyle {
                          const QWidget *widget) const override;
   int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                 QStyleHintReturn *returned) const override;
+  QRect subElementRect(SubElement element, const QStyleOption *option,
+                       const QWidget *widget) const override;
   QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option,
                        SubControl subControl, const QWidget *widget) const override;
 

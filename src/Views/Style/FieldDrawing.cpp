@@ -19,7 +19,7 @@ constexpr double ringWidth = 2;
 constexpr int sidePadding = 8;  // with the ring
 constexpr int linePadding = 5;
 constexpr int chevronColumn = 22;
-constexpr double chevronSide = 10;
+constexpr double chevronSide = 12;
 
 QColor chevronColor(const QStyleOption &option, bool isActive) {
   return fillColor(isActive ? FillStyle::secondary : FillStyle::quaternary, option.palette);

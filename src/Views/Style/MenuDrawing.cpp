@@ -35,6 +35,13 @@ bool isDestructive(const QStyleOptionMenuItem &option, const QWidget *widget) {
   return action != nullptr && action->property("destructive").toBool();
 }
 
+/// A menu keeps a column for the icons of all its entries as soon as one has an icon. The list of a
+/// combo box, which is drawn like a menu, always asks for one.
+bool hasIconColumn(const QStyleOptionMenuItem &option, const QWidget *widget) {
+  const bool isMenu = qobject_cast<const QMenu *>(widget) != nullptr;
+  return option.maxIconWidth > 0 && (isMenu || !option.icon.isNull());
+}
+
 AccentFill colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
   const QPalette &palette = option.palette;
   const bool isSelected = option.state.testFlag(QStyle::State_Selected);
@@ -51,8 +58,8 @@ AccentFill colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
                     : AccentFill{Qt::transparent, fillColor(FillStyle::primary, palette)};
 }
 
-void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, QRect &text,
-              const QColor &color) {
+void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, const QWidget *widget,
+              QRect &text, const QColor &color) {
   const int side = option.fontMetrics.height();
   if (option.menuHasCheckableItems) {
     if (option.checked) {
@@ -61,7 +68,7 @@ void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, QRect &text
     }
     text.setLeft(text.left() + side);
   }
-  if (option.maxIconWidth > 0) {
+  if (hasIconColumn(option, widget)) {
     const QRect place(text.left(), text.center().y() - side / 2, side, side);
     const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
     option.icon.paint(&painter, place, Qt::AlignCenter,
@@ -97,7 +104,7 @@ void drawItem(QPainter &painter, const QStyleOptionMenuItem &option, const QWidg
   painter.drawRoundedRect(option.rect, highlightRadius, highlightRadius);
 
   QRect text = option.rect.adjusted(sidePadding, 0, -sidePadding, 0);
-  drawMark(painter, option, text, colors.text);
+  drawMark(painter, option, menu, text, colors.text);
   painter.setFont(fontOf(option));
   painter.setPen(colors.text);
   const QString label = option.text.section(u'\t', 0, 0);

@@ -58,6 +58,13 @@ AccentFill colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
                     : AccentFill{Qt::transparent, fillColor(FillStyle::primary, palette)};
 }
 
+QIcon::Mode iconMode(const QStyleOptionMenuItem &option) {
+  if (!option.state.testFlag(QStyle::State_Enabled)) {
+    return QIcon::Disabled;
+  }
+  return option.state.testFlag(QStyle::State_Selected) ? QIcon::Selected : QIcon::Normal;
+}
+
 void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, const QWidget *widget,
               QRect &text, const QColor &color) {
   const int side = option.fontMetrics.height();
@@ -70,9 +77,7 @@ void drawMark(QPainter &painter, const QStyleOptionMenuItem &option, const QWidg
   }
   if (hasIconColumn(option, widget)) {
     const QRect place(text.left(), text.center().y() - side / 2, side, side);
-    const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
-    option.icon.paint(&painter, place, Qt::AlignCenter,
-                      isEnabled ? QIcon::Normal : QIcon::Disabled);
+    option.icon.paint(&painter, place, Qt::AlignCenter, iconMode(option));
     text.setLeft(place.right() + 1 + iconSpacing);
   }
 }

@@ -1,0 +1,62 @@
+#include "Views/Style/SymbolIcon.h"
+
+#include "Views/Style/AccentFill.h"
+#include "Views/Style/FillStyle.h"
+#include "Views/Style/Symbol.h"
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QIconEngine>
+#include <QtGui/QPainter>
+#include <QtGui/QPalette>
+
+#include <utility>
+
+namespace lanternix {
+
+namespace {
+
+QColor colorFor(QIcon::Mode mode) {
+  const QPalette palette = QGuiApplication::palette();
+  switch (mode) {
+    case QIcon::Selected:
+      return AccentFill::of(palette).text;
+    case QIcon::Disabled:
+      return fillColor(FillStyle::tertiary, palette);
+    case QIcon::Normal:
+    case QIcon::Active:
+      break;
+  }
+  return fillColor(FillStyle::primary, palette);
+}
+
+/// Draws anew each time, so that no colour is kept that is not the palette's any more.
+class SymbolIconEngine : public QIconEngine {
+ public:
+  explicit SymbolIconEngine(QString name) : m_name(std::move(name)) {}
+
+  void paint(QPainter *painter, const QRect &area, QIcon::Mode mode,
+             QIcon::State /*state*/) override {
+    Symbol::draw(*painter, area, m_name, qMin(area.width(), area.height()), colorFor(mode));
+  }
+
+  QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, pixmap.rect(), mode, state);
+    return pixmap;
+  }
+
+  QIconEngine *clone() const override { return new SymbolIconEngine(m_name); }  // the icon's
+
+ private:
+  QString m_name;
+};
+
+}  // namespace
+
+QIcon symbolIcon(const QString &name) {
+  return QIcon(new SymbolIconEngine(name));  // owned by the icon
+}
+
+}  // namespace lanternix

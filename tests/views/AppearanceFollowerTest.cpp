@@ -37,7 +37,7 @@ class AppearanceFollowerTest : public ViewTest {
   ~AppearanceFollowerTest() override {
     follower.reset();
     view.reset();
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new LanternixStyle);  // as the other tests find it
     QApplication::setPalette(QPalette());
     QApplication::setFont(font);
     QCoreApplication::processEvents();

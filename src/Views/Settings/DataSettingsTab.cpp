@@ -172,6 +172,7 @@ void DataSettingsTab::createBackup() {
 void DataSettingsTab::loadBackups() {
   const QList<BackupInfo> backups = m_appState.backupService().listBackups();
   m_savedBackups->setTitle(u"Saved Backups (%1)"_s.arg(backups.size()));
+  m_savedBackups->hide();  // or each row would lay out all those before it anew
   m_savedBackups->clear();
   for (const BackupInfo &backup : backups) {
     auto *row = new BackupRowView(backup, m_savedBackups);
@@ -179,6 +180,7 @@ void DataSettingsTab::loadBackups() {
             [this, backup] { confirmRestore(backup); });
     m_savedBackups->addRow(row);
   }
+  m_savedBackups->show();
 }
 
 void DataSettingsTab::confirmRestore(const BackupInfo &backup) {

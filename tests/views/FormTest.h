@@ -11,6 +11,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 
+#include <algorithm>
 #include <memory>
 
 namespace lanternix {

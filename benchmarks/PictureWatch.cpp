@@ -84,9 +84,9 @@ PictureWatch::Times PictureWatch::timesAfter(const std::function<void()> &event)
   return times;
 }
 
-std::optional<PictureWatch::Duration> PictureWatch::Times::longestGap() const {
+std::optional<PictureWatch::Duration> PictureWatch::Times::longestGap(Duration within) const {
   std::optional<Duration> longest;
-  for (std::size_t frame = 1; frame < frames.size(); ++frame) {
+  for (std::size_t frame = 1; frame < frames.size() && frames[frame] <= within; ++frame) {
     longest = std::max(longest.value_or(Duration{0}), frames[frame] - frames[frame - 1]);
   }
   return longest;

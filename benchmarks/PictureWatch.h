@@ -30,8 +30,9 @@ class PictureWatch {
     /// From the event to each frame: drawings that follow one another within 4 ms count as one.
     std::vector<Duration> frames;
 
-    /// The longest time between one frame and the next; none with fewer than two.
-    std::optional<Duration> longestGap() const;
+    /// The longest time between one frame and the next, of those that came \p within that time of
+    /// the event; none with fewer than two.
+    std::optional<Duration> longestGap(Duration within) const;
   };
 
   PictureWatch(const QString &displayName, xcb_window_t window);

@@ -12,6 +12,8 @@
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
 
@@ -130,7 +132,9 @@ bool AppDelegate::handleKey(const QKeyEvent &press) {
     m_appState.navigateDown();
     return true;
   }
-  if (key == KeyCodes::returnKey) {
+  // A button that has the keyboard is what Return is meant for.
+  const bool isForButton = qobject_cast<QAbstractButton *>(QApplication::focusWidget()) != nullptr;
+  if (key == KeyCodes::returnKey && !isForButton) {
     m_appState.openSelectedOrFirstItem();
     return true;
   }

@@ -147,6 +147,7 @@ bool AppearanceFollower::eventFilter(QObject *watched, QEvent *event) {
       if (watched->isWindowType()) {
         followPalette();
         followFont();
+        followIcons();
       }
       break;
     case QEvent::ApplicationFontChange:
@@ -178,6 +179,15 @@ void AppearanceFollower::applyIconTheme() {
   qCDebug(appearanceLog) << "the icons are those of" << theme;
   QIcon::setThemeName(theme);
   tellOfNewIcons();
+}
+
+void AppearanceFollower::followIcons() {
+  // Without a name of the program's own, Qt tells the desktop's.
+  const QString shown = QIcon::themeName();
+  QIcon::setThemeName({});
+  m_iconTheme = QIcon::themeName();
+  QIcon::setThemeName(shown);
+  applyIconTheme();
 }
 
 void AppearanceFollower::readDesktopPalette() {

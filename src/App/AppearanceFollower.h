@@ -30,6 +30,7 @@ class AppearanceFollower : public QObject {
   void apply();
   void applyPalette();
   void applyIconTheme();
+  void followIcons();
   void readDesktopPalette();
   void followPalette();
   void followFont();

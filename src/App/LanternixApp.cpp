@@ -9,6 +9,7 @@
 #include "Views/Style/ApplicationIcon.h"
 #include "Views/Style/LanternixStyle.h"
 
+#include <QtGui/QPixmapCache>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -46,6 +47,8 @@ int LanternixApp::run(int argc, char **argv) {
   int count = qMin(argc, 1);
   const QApplication application(count, argv);
   QApplication::setQuitOnLastWindowClosed(false);
+  // Its clean-up runs on a timer, which would wake the program while the panel is hidden.
+  QPixmapCache::setCacheLimit(0);
   QApplication::setWindowIcon(applicationIcon());
   PanelAccessibility::install();
 

@@ -46,7 +46,8 @@ class WindowSystem : public QObject {
   };
 
   /// Says what of \p window is the window proper, and what only its shadow: pressing there meets
-  /// what is below. What shows through the frame is blurred where that is offered.
+  /// what is below. What shows through the frame is blurred where that is offered. Without a shadow
+  /// the corners are cut off. To be told anew when the window's size or scale changes.
   virtual void setFrame(QWindow &window, const Frame &frame) = 0;
 
  Q_SIGNALS:

@@ -10,8 +10,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
-#include <cmath>
-
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -22,19 +20,6 @@ namespace {
 constexpr QSize initialSize{700, 500};
 constexpr QSize smallestSize{400, 300};
 constexpr int cornerRadius = 12;
-
-/// \p area without what lies outside its rounded corners.
-QRegion roundedRegion(const QRect &area, int radius) {
-  QRegion region(area.adjusted(0, radius, 0, -radius));
-  for (int line = 0; line < radius; ++line) {
-    const double fromCentre = radius - line - 0.5;
-    const int inset = qRound(radius - std::sqrt(radius * radius - fromCentre * fromCentre));
-    const QRect top(area.left() + inset, area.top() + line, area.width() - 2 * inset, 1);
-    region += top;
-    region += top.translated(0, area.height() - 1 - 2 * line);
-  }
-  return region;
-}
 
 }  // namespace
 
@@ -60,6 +45,7 @@ FloatingPanel::FloatingPanel(WindowSystem &windowSystem)
   connect(m_edgeResizer.get(), &WindowEdgeResizer::finished, this,
           &FloatingPanel::didEndLiveResize);
   windowHandle()->installEventFilter(this);
+  connect(windowHandle(), &QWindow::screenChanged, this, &FloatingPanel::updateShape);
   connect(&windowSystem, &WindowSystem::compositingChanged, this,
           &FloatingPanel::updateCompositing);
   updateCompositing();
@@ -74,6 +60,7 @@ void FloatingPanel::setContentView(std::unique_ptr<QWidget> content) {
 void FloatingPanel::makeKeyAndOrderFront() {
   if (!isVisible()) {
     m_hasBeenSeen = false;
+    updateShape();  // the screen may have another scale now
     m_windowSystem.preparePanel(*windowHandle());
   }
   show();
@@ -118,7 +105,8 @@ void FloatingPanel::setFrame(const QRect &frame) {
 /// A window manager that puts the window into a frame of its own moves that to its place later, and
 /// need not say so. Asked once more for the same, it has to.
 void FloatingPanel::confirmPlace() {
-  if (windowHandle()->geometry() != m_wantedGeometry) {
+  const bool isInTheUsersHand = m_isDragged || m_edgeResizer->isResizing();
+  if (!isInTheUsersHand && windowHandle()->geometry() != m_wantedGeometry) {
     windowHandle()->setGeometry(m_wantedGeometry);
   }
 }
@@ -129,7 +117,10 @@ void FloatingPanel::paintEvent(QPaintEvent *event) {
     QMetaObject::invokeMethod(this, &FloatingPanel::confirmPlace, Qt::QueuedConnection);
   }
   const QRect inner = contentsRect();
-  if (testAttribute(Qt::WA_TranslucentBackground) && !inner.contains(event->rect())) {
+  const bool isClearOfCorners =
+      inner.adjusted(cornerRadius, 0, -cornerRadius, 0).contains(event->rect()) ||
+      inner.adjusted(0, cornerRadius, 0, -cornerRadius).contains(event->rect());
+  if (testAttribute(Qt::WA_TranslucentBackground) && !isClearOfCorners) {
     QPainter painter(this);
     PanelShadow::paint(painter, inner, cornerRadius);
   }
@@ -167,11 +158,6 @@ void FloatingPanel::updateCompositing() {
 }
 
 void FloatingPanel::updateShape() {
-  if (testAttribute(Qt::WA_TranslucentBackground)) {
-    clearMask();
-  } else {
-    setMask(roundedRegion(rect(), cornerRadius));
-  }
   m_windowSystem.setFrame(
       *windowHandle(),
       {.size = frame().size(), .cornerRadius = cornerRadius, .shadow = contentsMargins()});

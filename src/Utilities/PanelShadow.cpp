@@ -34,25 +34,36 @@ double distanceToRounded(double x, double y, double reach, double radius) {
          radius;
 }
 
-/// How far from its corners a frame's shadow is still bent.
-int cornerLength(int cornerRadius) {
-  return cornerRadius + static_cast<int>(blur + drop);
-}
+/// The measures of the shadow in whole pixels, at a scale of \p ratio pixels to a logical one.
+struct Pixels {
+  explicit Pixels(int cornerRadius, double ratio)
+      : left(qRound(margins.left() * ratio)),
+        top(qRound(margins.top() * ratio)),
+        right(qRound(margins.right() * ratio)),
+        bottom(qRound(margins.bottom() * ratio)),
+        corner(qRound((cornerRadius + blur + drop) * ratio)) {}
 
-constexpr int straightLength = 2;
+  int left;
+  int top;
+  int right;
+  int bottom;
+  /// How far from its corners a frame's shadow is still bent.
+  int corner;
+  /// The part of a tile's sides that can be drawn as long as needed.
+  static constexpr int straight = 2;
+};
 
 /// The shadow of a small frame. Larger ones are made of its corners, and its sides drawn long.
 QImage tile(int cornerRadius, double ratio) {
-  const int side = 2 * cornerLength(cornerRadius) + straightLength;
-  const QSize size(side + margins.left() + margins.right(),
-                   side + margins.top() + margins.bottom());
-  QImage image(qRound(size.width() * ratio), qRound(size.height() * ratio),
+  const Pixels pixels(cornerRadius, ratio);
+  const int side = 2 * pixels.corner + Pixels::straight;
+  QImage image(pixels.left + side + pixels.right, pixels.top + side + pixels.bottom,
                QImage::Format_ARGB32_Premultiplied);
-  const double reach = side / 2.0;
+  const double reach = side / ratio / 2;
   for (int row = 0; row < image.height(); ++row) {
-    const double y = (row + 0.5) / ratio - margins.top() - reach;
+    const double y = (row + 0.5 - pixels.top) / ratio - reach;
     for (int column = 0; column < image.width(); ++column) {
-      const double x = (column + 0.5) / ratio - margins.left() - reach;
+      const double x = (column + 0.5 - pixels.left) / ratio - reach;
       const double distance = distanceToRounded(x, y, reach, cornerRadius);
       const double wide = softEdge(distanceToRounded(x, y - drop, reach, cornerRadius), blur);
       const double line = softEdge(distance - 0.5, 0.5);
@@ -76,35 +87,41 @@ const QImage &cachedTile(int cornerRadius, double ratio) {
   return image;
 }
 
+/// The rectangle from the cut \p column, \p row of the lines \p x and \p y to the next.
+QRect piece(const std::array<int, 4> &x, const std::array<int, 4> &y, std::size_t column,
+            std::size_t row) {
+  return {QPoint(x.at(column), y.at(row)), QPoint(x.at(column + 1) - 1, y.at(row + 1) - 1)};
+}
+
 }  // namespace
 
 void paint(QPainter &painter, const QRect &frame, int cornerRadius) {
   const double ratio = painter.device()->devicePixelRatioF();
+  const Pixels pixels(cornerRadius, ratio);
   const QImage &image = cachedTile(cornerRadius, ratio);
-  const QRect whole = frame.marginsAdded(margins);
-  const int corner = cornerLength(cornerRadius);
+  const QRect inner(qRound(frame.left() * ratio), qRound(frame.top() * ratio),
+                    qRound(frame.width() * ratio), qRound(frame.height() * ratio));
+  const QRect whole = inner.marginsAdded({pixels.left, pixels.top, pixels.right, pixels.bottom});
   // Where the tile is cut, and where the pieces go: three columns, three rows.
-  const std::array targetX{whole.left(), frame.left() + corner, frame.right() + 1 - corner,
-                           whole.right() + 1};
-  const std::array targetY{whole.top(), frame.top() + corner, frame.bottom() + 1 - corner,
-                           whole.bottom() + 1};
-  const double straight = straightLength * ratio;
-  const double x = (margins.left() + corner) * ratio;
-  const double y = (margins.top() + corner) * ratio;
-  const std::array sourceX{0.0, x, x + straight, double(image.width())};
-  const std::array sourceY{0.0, y, y + straight, double(image.height())};
+  const std::array targetX{whole.left(), inner.left() + pixels.corner,
+                           inner.right() + 1 - pixels.corner, whole.right() + 1};
+  const std::array targetY{whole.top(), inner.top() + pixels.corner,
+                           inner.bottom() + 1 - pixels.corner, whole.bottom() + 1};
+  const int x = pixels.left + pixels.corner;
+  const int y = pixels.top + pixels.corner;
+  const std::array sourceX{0, x, x + Pixels::straight, image.width()};
+  const std::array sourceY{0, y, y + Pixels::straight, image.height()};
+  painter.save();
+  painter.scale(1 / ratio, 1 / ratio);
   for (std::size_t row = 0; row < 3; ++row) {
     for (std::size_t column = 0; column < 3; ++column) {
-      if (row == 1 && column == 1) {
-        continue;  // under the window itself
+      if (row != 1 || column != 1) {  // which is under the window itself
+        painter.drawImage(piece(targetX, targetY, column, row), image,
+                          piece(sourceX, sourceY, column, row));
       }
-      const QRectF target(QPointF(targetX.at(column), targetY.at(row)),
-                          QPointF(targetX.at(column + 1), targetY.at(row + 1)));
-      const QRectF source(QPointF(sourceX.at(column), sourceY.at(row)),
-                          QPointF(sourceX.at(column + 1), sourceY.at(row + 1)));
-      painter.drawImage(target, image, source);
     }
   }
+  painter.restore();
 }
 
 }  // namespace lanternix::PanelShadow

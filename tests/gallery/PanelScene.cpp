@@ -29,6 +29,7 @@ class Collection {
     if (!file.open(QIODevice::WriteOnly)) {
       qFatal("The gallery cannot write %s", qUtf8Printable(file.fileName()));
     }
+    file.write("x");  // an empty file is of no type
     return item(name, file.fileName(), ItemType::file);
   }
   Collection &missingFile(const QString &name, const QString &path) {

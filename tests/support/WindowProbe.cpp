@@ -35,6 +35,18 @@ std::optional<xcb_window_t> WindowProbe::find(const QString &instanceName,
   return std::nullopt;
 }
 
+QList<xcb_window_t> WindowProbe::menus(const QString &instanceName) const {
+  // Menus ask the window manager to leave them alone, so that they stay children of the root.
+  QList<xcb_window_t> menus = children(m_connection.root());
+  menus.removeIf([&](xcb_window_t window) {
+    const XReply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
+        m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
+    return !reply || reply->override_redirect == 0 || reply->map_state != XCB_MAP_STATE_VIEWABLE ||
+           wmClass(window).value(0) != instanceName;
+  });
+  return menus;
+}
+
 bool WindowProbe::isViewable(xcb_window_t window) const {
   const XReply<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
       m_connection, xcb_get_window_attributes(m_connection, window), nullptr));

@@ -20,6 +20,9 @@ class WindowProbe {
   /// has made one.
   std::optional<xcb_window_t> find(const QString &instanceName, const QString &title) const;
 
+  /// The menus that are open now and belong to a program of this WM_CLASS instance name.
+  QList<xcb_window_t> menus(const QString &instanceName) const;
+
   bool isViewable(xcb_window_t window) const;
   /// The client area on the root window.
   QRect geometry(xcb_window_t window) const;

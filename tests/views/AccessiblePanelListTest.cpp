@@ -2,6 +2,7 @@
 #include "Views/Panel/PanelListModel.h"
 #include "Views/Panel/PanelListView.h"
 #include "Views/Panel/PopupPanelView.h"
+#include "support/WaitUntil.h"
 #include "views/ViewTest.h"
 
 #include <QtGui/QAccessible>
@@ -195,8 +196,8 @@ TEST_F(AccessiblePanelListTest, TheFocusGivenToAnItem_SelectsIt) {
 TEST_F(AccessiblePanelListTest, TheActionOfAGroup_FoldsAndUnfoldsIt) {
   show({work}, {report, notes});
   act(row(0), QAccessibleActionInterface::toggleAction());
-  EXPECT_EQ(list()->child(0)->childCount(), 0);
   EXPECT_TRUE(row(0)->state().collapsed);
+  EXPECT_TRUE(waitUntil([this] { return list()->child(0)->childCount() == 0; }));
   act(row(0), QAccessibleActionInterface::pressAction());
   EXPECT_EQ(list()->child(0)->childCount(), 2);
 }

@@ -1,5 +1,6 @@
 #include "Views/Panel/SearchBarView.h"
 #include "Views/Style/SymbolButton.h"
+#include "support/WaitUntil.h"
 #include "views/ViewTest.h"
 
 #include <QtGui/QInputMethodEvent>
@@ -65,6 +66,15 @@ TEST_F(SearchBarViewTest, TheClearButton_StandsThereOnlyWhileThereIsText) {
   EXPECT_EQ(state->searchQuery(), QString());
   EXPECT_EQ(field->text(), QString());
   EXPECT_FALSE(clearButton->isVisible());
+}
+
+TEST_F(SearchBarViewTest, TheClearButton_LeavesTheKeyboardWithTheField) {
+  view->activateWindow();
+  view->focusField();
+  QTest::keyClick(field, Qt::Key_R);
+  QTest::mouseClick(clearButton, Qt::LeftButton);
+  EXPECT_TRUE(waitUntil([&] { return field->hasFocus(); }));
+  EXPECT_FALSE(clearButton->hasFocus());
 }
 
 TEST_F(SearchBarViewTest, HidingThePanel_EmptiesTheField) {

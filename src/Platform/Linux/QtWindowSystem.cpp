@@ -1,5 +1,7 @@
 #include "Platform/Linux/QtWindowSystem.h"
 
+#include "Platform/RoundedRegion.h"
+
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
@@ -23,10 +25,9 @@ bool QtWindowSystem::isComposited() const {
 }
 
 void QtWindowSystem::setFrame(QWindow &window, const Frame &frame) {
-  if (isComposited()) {
-    // Which says there where presses are taken.
-    window.setMask(QRect(QPoint(frame.shadow.left(), frame.shadow.top()), frame.size));
-  }
+  const QRect area(QPoint(frame.shadow.left(), frame.shadow.top()), frame.size);
+  // Where windows are blended, the mask says only where presses are taken.
+  window.setMask(isComposited() ? QRegion(area) : roundedRegion(area, frame.cornerRadius));
 }
 
 void QtWindowSystem::activate(QWindow &window) {

@@ -1,9 +1,10 @@
 #include "Platform/Linux/X11Compositor.h"
 
+#include "Platform/RoundedRegion.h"
+
 #include <QtCore/QCoreApplication>
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <xcb/shape.h>
 #include <xcb/xfixes.h>
@@ -26,27 +27,16 @@ qsizetype screenNumber(const X11Server &server) {
   return root - server.roots().begin();
 }
 
-/// A frame's outline as rectangles (left, top, width, height): one for each line of its corners,
-/// one for what is between.
-std::vector<quint32> roundedRegion(const WindowSystem::Frame &frame) {
-  std::vector<quint32> region;
-  const int width = frame.size.width();
-  const int height = frame.size.height();
-  const int radius = frame.cornerRadius;
-  const auto add = [&](int inset, int line, int lines) {
-    for (const int number :
-         {frame.shadow.left() + inset, frame.shadow.top() + line, width - 2 * inset, lines}) {
-      region.push_back(static_cast<quint32>(number));
+/// A frame's outline as rectangles: left, top, width, height of each.
+std::vector<quint32> outline(const WindowSystem::Frame &frame) {
+  const QRect area(QPoint(frame.shadow.left(), frame.shadow.top()), frame.size);
+  std::vector<quint32> numbers;
+  for (const QRect &part : roundedRegion(area, frame.cornerRadius)) {
+    for (const int number : {part.left(), part.top(), part.width(), part.height()}) {
+      numbers.push_back(static_cast<quint32>(number));
     }
-  };
-  for (int line = 0; line < radius; ++line) {
-    const double fromCentre = radius - line - 0.5;
-    const int inset = qRound(radius - std::sqrt(radius * radius - fromCentre * fromCentre));
-    add(inset, line, 1);
-    add(inset, height - 1 - line, 1);
   }
-  add(0, radius, height - 2 * radius);
-  return region;
+  return numbers;
 }
 
 }  // namespace
@@ -114,14 +104,31 @@ void X11Compositor::setFrame(xcb_window_t window, const WindowSystem::Frame &fra
         static_cast<quint32>(shadow.left()), static_cast<quint32>(shadow.right()),
         static_cast<quint32>(shadow.top()), static_cast<quint32>(shadow.bottom())};
     setNumbers(window, m_atoms[frameExtents], extents);
-    setNumbers(window, m_atoms[blurBehind], roundedRegion(frame));
+    setNumbers(window, m_atoms[blurBehind], outline(frame));
   }
   if (hasExtension(m_server, xcb_shape_id)) {
-    const xcb_rectangle_t taken{
-        static_cast<qint16>(shadow.left()), static_cast<qint16>(shadow.top()),
-        static_cast<quint16>(frame.size.width()), static_cast<quint16>(frame.size.height())};
-    xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT,
-                         XCB_CLIP_ORDERING_UNSORTED, window, 0, 0, 1, &taken);
+    setShape(window, frame);
+  }
+}
+
+void X11Compositor::setShape(xcb_window_t window, const WindowSystem::Frame &frame) {
+  xcb_connection_t *connection = m_server.connection();
+  const QRect area(QPoint(frame.shadow.left(), frame.shadow.top()), frame.size);
+  const auto set = [&](xcb_shape_kind_t kind, const QRegion &region) {
+    std::vector<xcb_rectangle_t> parts;
+    for (const QRect &part : region) {
+      parts.push_back({static_cast<qint16>(part.left()), static_cast<qint16>(part.top()),
+                       static_cast<quint16>(part.width()), static_cast<quint16>(part.height())});
+    }
+    xcb_shape_rectangles(connection, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, window, 0,
+                         0, static_cast<quint32>(parts.size()), parts.data());
+  };
+  set(XCB_SHAPE_SK_INPUT, area);
+  if (frame.shadow.isNull()) {
+    set(XCB_SHAPE_SK_BOUNDING, roundedRegion(area, frame.cornerRadius));
+  } else {
+    xcb_shape_mask(connection, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, window, 0, 0,
+                   XCB_PIXMAP_NONE);
   }
 }
 

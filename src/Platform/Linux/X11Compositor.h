@@ -23,7 +23,8 @@ class X11Compositor : public QObject, public QAbstractNativeEventFilter {
   bool isRunning() const { return m_isRunning; }
 
   /// Marks what of \p window is the window proper: only that takes presses, is placed and tiled,
-  /// and has what is behind it blurred. Lengths in \p frame are the server's pixels too.
+  /// and has what is behind it blurred. Without a shadow its corners are cut. Lengths in \p frame
+  /// are the server's pixels too.
   void setFrame(xcb_window_t window, const WindowSystem::Frame &frame);
 
   bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
@@ -37,6 +38,7 @@ class X11Compositor : public QObject, public QAbstractNativeEventFilter {
 
   void watch();
   void update(bool isRunning);
+  void setShape(xcb_window_t window, const WindowSystem::Frame &frame);
   void setNumbers(xcb_window_t window, xcb_atom_t property, std::span<const quint32> numbers);
 
   const X11Server &m_server;

@@ -6,6 +6,8 @@
 #include <QtGui/QWindow>
 
 #include <algorithm>
+#include <span>
+#include <xcb/shape.h>
 #include <xcb/xinput.h>
 
 namespace lanternix {
@@ -89,9 +91,8 @@ void XInputMouseMonitor::followPointer(const xcb_generic_event_t &event) {
                crossing.detail != XCB_NOTIFY_DETAIL_INFERIOR) {
       m_windowUnderPointer = XCB_WINDOW_NONE;
     }
-  } else if (type == XCB_UNMAP_NOTIFY &&
-             reinterpret_cast<const xcb_unmap_notify_event_t &>(event).window ==
-                 m_windowUnderPointer) {
+  } else if (type == XCB_UNMAP_NOTIFY) {
+    // A menu that has gone had the pointer to itself: nobody has told where it went meanwhile.
     m_windowUnderPointer = XCB_WINDOW_NONE;
   }
 }
@@ -117,10 +118,33 @@ bool XInputMouseMonitor::isPointerOverOwnWindow() const {
   for (const QWindow *window : windows) {
     if (window->isVisible() && window->handle() != nullptr &&
         topLevelOf(static_cast<xcb_window_t>(window->winId())) == pointer->child) {
-      return true;
+      return takesPressAt(static_cast<xcb_window_t>(window->winId()),
+                          {pointer->root_x, pointer->root_y});
     }
   }
   return false;
+}
+
+/// What a window lets through, such as its shadow, is not part of it, even where a window manager's
+/// frame around it takes the press.
+bool XInputMouseMonitor::takesPressAt(xcb_window_t window, QPoint position) const {
+  xcb_connection_t *connection = m_server.connection();
+  const auto originCookie = xcb_translate_coordinates(connection, window, m_server.root(), 0, 0);
+  const auto sizeCookie = xcb_get_geometry(connection, window);
+  const auto shapeCookie = xcb_shape_get_rectangles(connection, window, XCB_SHAPE_SK_INPUT);
+  const auto origin = awaitReply(xcb_translate_coordinates_reply, m_server, originCookie);
+  const auto shape = awaitReply(xcb_shape_get_rectangles_reply, m_server, shapeCookie);
+  const auto size = awaitReply(xcb_get_geometry_reply, m_server, sizeCookie);
+  const QPoint inside = origin ? position - QPoint(origin->dst_x, origin->dst_y) : QPoint();
+  if (!origin || !shape || !size || !QRect(0, 0, size->width, size->height).contains(inside)) {
+    return true;  // on its title bar
+  }
+  const std::span parts(
+      xcb_shape_get_rectangles_rectangles(shape.get()),
+      static_cast<size_t>(xcb_shape_get_rectangles_rectangles_length(shape.get())));
+  return std::ranges::any_of(parts, [inside](const xcb_rectangle_t &part) {
+    return QRect(part.x, part.y, part.width, part.height).contains(inside);
+  });
 }
 
 xcb_window_t XInputMouseMonitor::topLevelOf(xcb_window_t window) const {

@@ -4,6 +4,7 @@
 #include "Platform/Linux/X11Server.h"
 
 #include <QtCore/QAbstractNativeEventFilter>
+#include <QtCore/QPoint>
 
 #include <optional>
 
@@ -33,6 +34,7 @@ class XInputMouseMonitor : public GlobalMouseMonitor, public QAbstractNativeEven
   void select(bool active);
   bool isWatchedPress(const xcb_generic_event_t &event) const;
   bool isPointerOverOwnWindow() const;
+  bool takesPressAt(xcb_window_t window, QPoint position) const;
   xcb_window_t topLevelOf(xcb_window_t window) const;
 
   const X11Server &m_server;

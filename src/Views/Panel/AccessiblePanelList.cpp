@@ -24,11 +24,16 @@ AccessiblePanelRow *rowInterface(QAccessible::Id id) {
 
 AccessiblePanelList::AccessiblePanelList(PanelListView &view)
     : QAccessibleWidget(&view, QAccessible::Tree), m_view(view) {
+  // Whoever asks while the rows are being replaced must not meet what is gone.
+  m_aboutToResetConnection =
+      QObject::connect(&view.model(), &QAbstractItemModel::modelAboutToBeReset, &view,
+                       [this] { m_headers.reset(); });
   m_resetConnection = QObject::connect(&view.model(), &QAbstractItemModel::modelReset, &view,
                                        [this] { followRows(); });
 }
 
 AccessiblePanelList::~AccessiblePanelList() {
+  QObject::disconnect(m_aboutToResetConnection);
   QObject::disconnect(m_resetConnection);
   for (const QAccessible::Id id : std::exchange(m_interfaces, {})) {
     QAccessible::deleteAccessibleInterface(id);

@@ -49,6 +49,7 @@ class AccessiblePanelList final : public QAccessibleWidget {
   void followRows();
 
   PanelListView &m_view;
+  QMetaObject::Connection m_aboutToResetConnection;
   QMetaObject::Connection m_resetConnection;
   mutable std::optional<QList<qsizetype>> m_headers;
   /// By row, those that were asked for; ids, because Qt's cache may end before the list does.

@@ -209,18 +209,20 @@ void AccessiblePanelRow::doAction(const QString &actionName) {
   if (!actionNames().contains(actionName)) {
     return;
   }
-  AppState *appState = &view().appState();
-  std::function<void()> action;
-  if (const PathItem *item = model().itemAt(m_row)) {
-    if (actionName == pressAction()) {
-      action = [appState, opened = *item] { appState->openItem(opened); };
-    } else {
-      action = [appState, id = item->id] { appState->setSelectedItemId(id); };
+  const auto act = [list = &view(), row = m_row, identity = model().identityAt(m_row),
+                    selects = actionName != pressAction() && actionName != toggleAction()] {
+    // Later the row may stand for something else.
+    const PathItem *item = list->model().itemAt(row);
+    if (list->model().identityAt(row) != identity) {
+      return;
     }
-  } else if (const PathGroup *group = model().groupAt(m_row)) {
-    action = [appState, id = group->id] { appState->toggleGroup(id); };
-  }
-  QMetaObject::invokeMethod(&view(), action, Qt::QueuedConnection);
+    if (selects && item != nullptr) {
+      list->appState().setSelectedItemId(item->id);
+    } else {
+      list->activate(row);
+    }
+  };
+  QMetaObject::invokeMethod(&view(), act, Qt::QueuedConnection);
 }
 
 QStringList AccessiblePanelRow::keyBindingsForAction(const QString & /*actionName*/) const {

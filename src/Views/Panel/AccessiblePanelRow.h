@@ -14,7 +14,8 @@ class PanelListView;
 /// One row of the panel's list for a screen reader. An item is heard by its name, then as
 /// "Directory, not found, ~/Projects"; a group by its name and "3 items", with its state. The rows
 /// of a group are the children of its header. An item opens and is selected, a group folds and
-/// unfolds by an action. Lives no longer than the rows of the list stay as they are.
+/// unfolds by an action. Follows its item or group to
+/// wherever the list shows it, and ends with it.
 class AccessiblePanelRow final : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
   /// What a row stands for, whatever its place.

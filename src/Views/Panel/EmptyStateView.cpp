@@ -38,11 +38,9 @@ EmptyStateView::EmptyStateView(QWidget *parent)
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 20, 0, 20);
   layout->setSpacing(16);
-  layout->addStretch();
   layout->addWidget(mark, 0, Qt::AlignHCenter);
   layout->addLayout(texts);
   layout->addWidget(m_button, 0, Qt::AlignHCenter);
-  layout->addStretch();
   PanelAccessibility::readInOrderOf(*layout);
 }
 

@@ -55,9 +55,8 @@ QRectF KeyHintView::keyCap() const {
 
 QSize KeyHintView::sizeHint() const {
   const QRectF cap = keyCap();
-  return QSizeF(cap.width() + spacing + QFontMetricsF(wordFont()).horizontalAdvance(m_word) + 1,
-                cap.height())
-      .toSize();
+  return {qCeil(cap.width() + spacing + QFontMetricsF(wordFont()).horizontalAdvance(m_word)),
+          qCeil(cap.height())};
 }
 
 void KeyHintView::paintEvent(QPaintEvent * /*event*/) {

@@ -31,6 +31,8 @@ void PanelAnnouncer::accessibilityActiveChanged(bool active) {
     return;
   }
   connect(&m_appState, &AppState::selectedItemIdChanged, this, &PanelAnnouncer::announceSoon);
+  // What has changed while the panel was hidden is told of when it is shown.
+  connect(&m_appState, &AppState::isPanelVisibleChanged, this, &PanelAnnouncer::announceSoon);
   connect(&m_list.model(), &QAbstractItemModel::modelReset, this, [this] {
     m_rowsChanged = true;
     announceSoon();
@@ -47,12 +49,11 @@ void PanelAnnouncer::announceSoon() {
 
 void PanelAnnouncer::announce() {
   m_isPending = false;
-  const bool rowsChanged = std::exchange(m_rowsChanged, false);
   if (!m_isActive || !m_appState.isPanelVisible()) {
     m_announcedItemId.reset();
     return;
   }
-  if (rowsChanged) {
+  if (std::exchange(m_rowsChanged, false)) {
     announceRows();
   }
   announceSelection();

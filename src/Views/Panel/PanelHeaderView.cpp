@@ -22,7 +22,7 @@ PanelHeaderView::PanelHeaderView(QWidget *parent) : QWidget(parent) {
   connect(settings, &QAbstractButton::clicked, this, &PanelHeaderView::settingsRequested);
 
   auto *layout = new QHBoxLayout(this);
-  layout->setContentsMargins(20, 18, 20, 12);
+  layout->setContentsMargins(20, 18, 20 - SymbolButton::margin, 12);
   layout->setSpacing(12);
   layout->addWidget(mark);
   layout->addWidget(name);

@@ -82,7 +82,7 @@ QVariant PanelListModel::data(const QModelIndex &index, int role) const {
     case KindRole:
       return static_cast<int>(row.kind);
     case IdRole:
-      return item != nullptr ? item->id : group != nullptr ? group->id : QUuid();
+      return identityAt(index.row())->second;
     case CountRole:
       return group == nullptr ? QVariant()
                               : QVariant::fromValue<qlonglong>(
@@ -106,9 +106,24 @@ QHash<int, QByteArray> PanelListModel::roleNames() const {
 void PanelListModel::setLingering(const QUuid &group, bool lingers) {
   if (lingers) {
     m_lingeringGroups.insert(group);
-  } else if (m_lingeringGroups.remove(group)) {
+    return;
+  }
+  const PathGroup *unfolded = m_appState.groupWithId(group);
+  const bool rowsStay = unfolded != nullptr && unfolded->isExpanded;
+  if (m_lingeringGroups.remove(group) && !rowsStay) {
     rebuild();
   }
+}
+
+std::optional<PanelListModel::Identity> PanelListModel::identityAt(qsizetype row) const {
+  if (row < 0 || row >= m_rows.size()) {
+    return std::nullopt;
+  }
+  const PathItem *item = itemAt(row);
+  const PathGroup *group = groupAt(row);
+  return Identity(m_rows[row].kind, item != nullptr    ? item->id
+                                    : group != nullptr ? group->id
+                                                       : QUuid());
 }
 
 void PanelListModel::rebuild() {

@@ -24,7 +24,7 @@ class PanelListModel : public QAbstractListModel {
   enum Role {
     KindRole = Qt::UserRole,  ///< int, a PanelRow::Kind
     IdRole,                   ///< QUuid of the row's item or group
-    CountRole,                ///< int, the items the panel shows in the row's group
+    CountRole,                ///< qlonglong, the items the panel shows in the row's group
     ExpandedRole,             ///< bool, whether the row's group is unfolded
   };
 
@@ -39,6 +39,11 @@ class PanelListModel : public QAbstractListModel {
   /// Whether the rows of \p group stay in the list while it is folded, so that they can be seen
   /// going away.
   void setLingering(const QUuid &group, bool lingers);
+
+  /// What a row stands for, which stays the same when rows come and go around it.
+  using Identity = std::pair<PanelRow::Kind, QUuid>;
+  /// None outside the list.
+  std::optional<Identity> identityAt(qsizetype row) const;
 
   /// The item of an item row, the group of a group's row; null for rows of another kind.
   const PathItem *itemAt(qsizetype row) const;

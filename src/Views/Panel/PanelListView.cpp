@@ -54,7 +54,6 @@ void PanelListView::updateMetrics() {
 }
 
 void PanelListView::readRows() {
-  m_pressedRow = -1;
   m_hover.reset(-1);
   layOutRows();
   // A list that changes below a user who has scrolled away stays where it is; a new search does
@@ -96,10 +95,6 @@ qsizetype PanelListView::rowAt(const QPoint &position) const {
   return viewport()->rect().contains(position)
              ? m_layout.rowAt(position.y() + verticalScrollBar()->value())
              : -1;
-}
-
-qsizetype PanelListView::rowUnderPointer() const {
-  return viewport()->underMouse() ? rowAt(viewport()->mapFromGlobal(QCursor::pos())) : -1;
 }
 
 void PanelListView::scrollToSelection() {
@@ -173,10 +168,15 @@ void PanelListView::changeEvent(QEvent *event) {
 }
 
 bool PanelListView::viewportEvent(QEvent *event) {
-  if (event->type() == QEvent::Leave) {
+  if (event->type() == QEvent::Enter) {
+    m_pointer = static_cast<QEnterEvent *>(event)->position().toPoint();
+    m_hover.moveTo(rowUnderPointer(), isAnimated());
+  } else if (event->type() == QEvent::Leave) {
+    m_pointer.reset();
     m_hover.moveTo(-1, isAnimated());
   } else if (event->type() == QEvent::Hide) {
     // Nothing moves in a window that nobody sees.
+    m_pointer.reset();
     m_hover.reset(-1);
     m_folding.finish();
   }
@@ -199,9 +199,10 @@ bool PanelListView::isAnimated() const {
 
 void PanelListView::mousePressEvent(QMouseEvent *event) {
   const qsizetype row = rowAt(event->position().toPoint());
-  m_pressedRow = event->button() == Qt::LeftButton && isClickable(row) ? row : -1;
+  const bool isPress = event->button() == Qt::LeftButton && isClickable(row);
+  m_pressed = isPress ? m_model.identityAt(row) : std::nullopt;
   // What is no button is background, by which the panel is moved.
-  event->setAccepted(m_pressedRow >= 0);
+  event->setAccepted(isPress);
 }
 
 void PanelListView::mouseDoubleClickEvent(QMouseEvent *event) {
@@ -210,14 +211,16 @@ void PanelListView::mouseDoubleClickEvent(QMouseEvent *event) {
 }
 
 void PanelListView::mouseMoveEvent(QMouseEvent *event) {
-  m_hover.moveTo(rowAt(event->position().toPoint()), isAnimated());
-  event->setAccepted(m_pressedRow >= 0);
+  m_pointer = event->position().toPoint();
+  m_hover.moveTo(rowUnderPointer(), isAnimated());
+  event->setAccepted(m_pressed.has_value());
 }
 
 void PanelListView::mouseReleaseEvent(QMouseEvent *event) {
-  const qsizetype row = std::exchange(m_pressedRow, -1);
-  event->setAccepted(row >= 0);
-  if (row >= 0 && row == rowAt(event->position().toPoint())) {
+  const auto pressed = std::exchange(m_pressed, std::nullopt);
+  event->setAccepted(pressed.has_value());
+  const qsizetype row = rowAt(event->position().toPoint());
+  if (pressed && pressed == m_model.identityAt(row)) {
     activate(row);
   }
 }

@@ -3,6 +3,7 @@
 #include "Views/Panel/GroupFolding.h"
 #include "Views/Panel/HoverFade.h"
 #include "Views/Panel/PanelListLayout.h"
+#include "Views/Panel/PanelListModel.h"
 #include "Views/Panel/PanelRowPainter.h"
 
 #include <QtWidgets/QAbstractScrollArea>
@@ -10,7 +11,6 @@
 namespace lanternix {
 
 class AppState;
-class PanelListModel;
 
 /// The panel's scrolling list. One widget that draws only the rows in sight, so that ten thousand
 /// items cost what ten cost. A click opens an item or folds a group; the selection is moved by the
@@ -53,7 +53,7 @@ class PanelListView : public QAbstractScrollArea {
   void layOutRows();
   void updateScrollBar();
   void scrollToSelection();
-  qsizetype rowUnderPointer() const;
+  qsizetype rowUnderPointer() const { return m_pointer ? rowAt(*m_pointer) : -1; }
   bool isClickable(qsizetype row) const;
   bool isAnimated() const;
   double openness(const PathGroup *group) const;
@@ -66,7 +66,9 @@ class PanelListView : public QAbstractScrollArea {
   PanelListLayout m_layout;
   HoverFade m_hover;
   GroupFolding m_folding;
-  qsizetype m_pressedRow = -1;
+  std::optional<PanelListModel::Identity> m_pressed;
+  /// Where the pointer is on the viewport; none when it is elsewhere.
+  std::optional<QPoint> m_pointer;
   /// The query for which the selection was last brought into sight.
   QString m_shownQuery;
 };

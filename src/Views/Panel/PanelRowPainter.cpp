@@ -3,6 +3,7 @@
 #include "App/AppState.h"
 #include "Views/Panel/PanelListModel.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/PixelGrid.h"
 
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
@@ -18,9 +19,10 @@ constexpr int dividerPadding = 6;
 constexpr int dividerSidePadding = 16;
 
 void paintDivider(QPainter &painter, const QPalette &palette, const QRectF &area) {
-  painter.fillRect(
-      area.adjusted(dividerSidePadding, dividerPadding, -dividerSidePadding, -dividerPadding),
-      fillColor(FillStyle::quaternary, palette));
+  const QRectF line =
+      area.adjusted(dividerSidePadding, dividerPadding, -dividerSidePadding, -dividerPadding);
+  painter.fillRect(PixelGrid::snappedLine(painter, line),
+                   fillColor(FillStyle::quaternary, palette));
 }
 
 }  // namespace

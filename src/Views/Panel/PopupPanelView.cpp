@@ -14,6 +14,7 @@
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/Material.h"
 #include "Views/Style/SlimScrollBar.h"
+#include "Views/Style/SymbolButton.h"
 #include "Views/Style/SymbolLabel.h"
 
 #include <QtGui/QContextMenuEvent>
@@ -71,8 +72,9 @@ PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
 QWidget *PopupPanelView::makeSearchRow() {
   auto *row = new QWidget(this);
   auto *layout = new QHBoxLayout(row);
-  layout->setContentsMargins(20, 0, 20, 14);
-  layout->setSpacing(10);
+  layout->setContentsMargins(20, 0, 20 - SymbolButton::margin, 14);
+  constexpr int fieldMargin = 2;  // which a line edit leaves beside its text
+  layout->setSpacing(10 - fieldMargin);
   layout->addWidget(new SymbolLabel(
       u"magnifyingglass"_s, TextStyle::title3,
       [](const QPalette &palette) { return fillColor(FillStyle::secondary, palette); }, row));

@@ -1,6 +1,7 @@
 #include "Views/Panel/ScopeBadgeView.h"
 
 #include "Views/Style/Contrast.h"
+#include "Views/Style/DisplayText.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
 #include "Views/Style/TextStyle.h"
@@ -33,8 +34,9 @@ ScopeBadgeView::ScopeBadgeView(QWidget *parent) : QWidget(parent) {
 }
 
 void ScopeBadgeView::setNames(const QString &names) {
-  m_names = names;
-  setAccessibleName(u"Scope: "_s + names);
+  constexpr qsizetype longest = 200;  // more than the footer has room for
+  m_names = DisplayText::singleLine(names.left(longest));
+  setAccessibleName(u"Scope: "_s + m_names);
   updateGeometry();
   update();
 }
@@ -67,7 +69,7 @@ void ScopeBadgeView::paintEvent(QPaintEvent * /*event*/) {
   painter.setFont(badgeFont());
   painter.setPen(color);
   painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                   QFontMetricsF(badgeFont()).elidedText(m_names, Qt::ElideRight, text.width()));
+                   DisplayText::elided(m_names, badgeFont(), Qt::ElideRight, text.width()));
 }
 
 }  // namespace lanternix

@@ -6,7 +6,8 @@ class QPalette;
 
 namespace lanternix {
 
-/// The accent colour as the ground of what is to be noticed first, and the colour of the text on it.
+/// The accent colour as the ground of what is to be noticed first, and the colour of the text on
+/// it.
 struct AccentFill {
   QColor ground;
   QColor text;

@@ -1,6 +1,7 @@
 #include "Views/Style/DividerLine.h"
 
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/PixelGrid.h"
 
 #include <QtGui/QPainter>
 
@@ -11,7 +12,9 @@ DividerLine::DividerLine(QWidget *parent) : QWidget(parent) {
 }
 
 void DividerLine::paintEvent(QPaintEvent * /*event*/) {
-  QPainter(this).fillRect(rect(), fillColor(FillStyle::quaternary, palette()));
+  QPainter painter(this);
+  painter.fillRect(PixelGrid::snappedLine(painter, rect()),
+                   fillColor(FillStyle::quaternary, palette()));
 }
 
 }  // namespace lanternix

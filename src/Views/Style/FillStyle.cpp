@@ -36,7 +36,9 @@ Opacities opacities(FillStyle style) {
 
 /// \p color at \p opacity, or as much more as it takes to be read on \p ground.
 QColor readable(QColor color, float opacity, const QColor &ground) {
-  constexpr double wanted = Contrast::ofText + 0.05;  // drawing rounds
+  // More than is asked for on the ground itself, because a little of what is behind a translucent
+  // window shows through it.
+  constexpr double wanted = Contrast::ofText * 1.08;
   constexpr float step = 0.01F;
   color.setAlphaF(opacity);
   while (opacity < 1 && Contrast::ratio(color, ground) < wanted) {

@@ -1,13 +1,14 @@
 #include "Views/Style/MenuDrawing.h"
 
+#include "Platform/RoundedRegion.h"
 #include "Views/Style/AccentFill.h"
 #include "Views/Style/Contrast.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/PixelGrid.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
 
 #include <QtGui/QPainter>
-#include <QtGui/QPainterPath>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QStyleOptionMenuItem>
 
@@ -99,7 +100,8 @@ void drawItem(QPainter &painter, const QStyleOptionMenuItem &option, const QWidg
   if (option.menuItemType == QStyleOptionMenuItem::Separator) {
     const QRectF line(option.rect.left() + sidePadding, option.rect.center().y(),
                       option.rect.width() - 2 * sidePadding, 1);
-    painter.fillRect(line, fillColor(FillStyle::quaternary, option.palette));
+    painter.fillRect(PixelGrid::snappedLine(painter, line),
+                     fillColor(FillStyle::quaternary, option.palette));
     painter.restore();
     return;
   }
@@ -143,9 +145,7 @@ QSize itemSize(const QStyleOptionMenuItem &option, const QSize &contents) {
 }
 
 QRegion panelRegion(const QRect &area) {
-  QPainterPath outline;
-  outline.addRoundedRect(area, panelRadius, panelRadius);
-  return QRegion(outline.toFillPolygon().toPolygon());
+  return roundedRegion(area, panelRadius);
 }
 
 }  // namespace lanternix::MenuDrawing

@@ -1,5 +1,7 @@
 #include "Views/Style/Symbol.h"
 
+#include "Views/Style/PixelGrid.h"
+
 #include <QtCore/QFile>
 #include <QtCore/QHash>
 #include <QtGui/QColor>
@@ -74,12 +76,9 @@ QImage image(const QString &name, double side, const QColor &color, double devic
 
 void draw(QPainter &painter, const QRectF &area, const QString &name, double side,
           const QColor &color) {
-  const double ratio = painter.device()->devicePixelRatioF();
-  // Onto whole device pixels, or a sharp drawing turns soft.
-  const auto snapped = [ratio](double position) { return qRound(position * ratio) / ratio; };
-  const QPointF corner(snapped(area.center().x() - side / 2),
-                       snapped(area.center().y() - side / 2));
-  painter.drawImage(corner, image(name, side, color, ratio));
+  const QPointF corner = area.center() - QPointF(side / 2, side / 2);
+  painter.drawImage(PixelGrid::snapped(painter, corner),
+                    image(name, side, color, painter.device()->devicePixelRatioF()));
 }
 
 double sideFor(const QFont &font) {

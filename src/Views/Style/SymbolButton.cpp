@@ -23,7 +23,7 @@ double SymbolButton::side() const {
 }
 
 QSize SymbolButton::sizeHint() const {
-  const int extent = qCeil(side()) + 4;
+  const int extent = qCeil(side()) + 2 * margin;
   return {extent, extent};
 }
 

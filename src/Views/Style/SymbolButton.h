@@ -12,6 +12,10 @@ class SymbolButton : public QAbstractButton {
   Q_OBJECT
 
  public:
+  /// Room around the symbol, for the ring of the focus. Layouts that align the symbol itself leave
+  /// so much less beside the button.
+  static constexpr int margin = 2;
+
   /// \p name is the button's accessible name and its tooltip.
   SymbolButton(QString symbol, TextStyle size, FillStyle fill, const QString &name,
                QWidget *parent = nullptr);

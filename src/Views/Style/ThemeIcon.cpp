@@ -1,5 +1,7 @@
 #include "Views/Style/ThemeIcon.h"
 
+#include "Views/Style/PixelGrid.h"
+
 #include <QtCore/QHash>
 #include <QtCore/QStringList>
 #include <QtGui/QIcon>
@@ -67,16 +69,12 @@ bool draw(QPainter &painter, const QRectF &area, const QStringList &names, doubl
   if (names.isEmpty()) {
     return false;
   }
-  const double ratio = painter.device()->devicePixelRatioF();
-  const QImage picture = image(names, side, ratio);
+  const QImage picture = image(names, side, painter.device()->devicePixelRatioF());
   if (picture.isNull()) {
     return false;
   }
-  // Onto whole device pixels, or a sharp picture turns soft.
-  const auto snapped = [ratio](double position) { return qRound(position * ratio) / ratio; };
-  painter.drawImage(
-      QPointF(snapped(area.center().x() - side / 2), snapped(area.center().y() - side / 2)),
-      picture);
+  const QPointF corner = area.center() - QPointF(side / 2, side / 2);
+  painter.drawImage(PixelGrid::snapped(painter, corner), picture);
   return true;
 }
 

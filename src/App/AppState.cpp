@@ -24,6 +24,7 @@ auto firstWithId(QList<Record> &records, const QUuid &id) {
 
 AppState::AppState(const Doors &doors, QObject *parent)
     : QObject(parent),
+      m_fileManager(doors.fileManager),
       m_userDefaults(doors.userDefaults),
       m_clock(doors.clock),
       m_storageService(doors.fileManager),
@@ -40,6 +41,10 @@ AppState::AppState(const Doors &doors, QObject *parent)
 }
 
 AppState::~AppState() = default;
+
+Date AppState::now() const {
+  return m_clock.now();
+}
 
 // --- Groups -------------------------------------------------------------------------------------
 

@@ -39,6 +39,9 @@ class AppState : public QObject {
   BackupService &backupService() { return m_backupService; }
   LauncherService &launcherService() { return m_launcherService; }
   const Workspace &workspace() const { return m_workspace; }
+  FileManager &fileManager() { return m_fileManager; }
+  /// The present moment, by the clock that all dates in the data come from.
+  Date now() const;
 
   // --- Data, in storage order -------------------------------------------------------------------
 
@@ -202,6 +205,7 @@ class AppState : public QObject {
   QList<PathItem> itemsAt(std::span<const qsizetype> positions) const;
   QList<PathGroup> groupsAt(std::span<const qsizetype> positions) const;
 
+  FileManager &m_fileManager;
   UserDefaults &m_userDefaults;
   Clock &m_clock;
   StorageService m_storageService;

@@ -29,6 +29,11 @@ class FileManager {
   /// with the old file as it was and no temporary file left, when that fails.
   virtual bool writeAtomically(QByteArrayView bytes, const QString &path) = 0;
 
+  /// Gives the file at \p path, which need not exist, the content \p bytes, for files that others
+  /// may have set up: in one step as above where its directory allows that, in place where only the
+  /// file itself may be written. False when that fails.
+  virtual bool write(QByteArrayView bytes, const QString &path) = 0;
+
   /// The names of the entries of a directory, without the hidden ones, in the system's order; none
   /// when it cannot be listed.
   virtual std::optional<QStringList> contentsOfDirectory(const QString &path) const = 0;

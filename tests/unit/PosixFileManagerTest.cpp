@@ -18,6 +18,20 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// Gives up the rights of the system's administrator, who may write everywhere, for a while.
+class AsNobody {
+ public:
+  AsNobody() : m_user(geteuid()) {
+    constexpr uid_t nobody = 65534;
+    EXPECT_EQ(m_user == 0 ? seteuid(nobody) : 0, 0);
+  }
+  ~AsNobody() { EXPECT_EQ(seteuid(m_user), 0); }
+  Q_DISABLE_COPY_MOVE(AsNobody)
+
+ private:
+  uid_t m_user;
+};
+
 class PosixFileManagerTest : public testing::Test {
  protected:
   QString path(const QString &name) const { return home.root() + u'/' + name; }
@@ -183,6 +197,31 @@ TEST_F(PosixFileManagerTest, Write_OverADirectoryPipeOrDevice_FailsAndLeavesIt) 
 
 TEST_F(PosixFileManagerTest, Write_IntoAMissingDirectory_Fails) {
   EXPECT_FALSE(files.writeAtomically("x", path(u"missing/file"_s)));
+}
+
+TEST_F(PosixFileManagerTest, WriteOver_AFileInADirectoryThatMayNotBeWritten_Works) {
+  TemporaryHome::write(path(u"place/file"_s), QByteArray(100, 'x'));
+  chmod(QFile::encodeName(home.root()).constData(), 0755);
+  chmod(QFile::encodeName(path(u"place/file"_s)).constData(), 0666);
+  chmod(QFile::encodeName(path(u"place"_s)).constData(), 0555);
+  const AsNobody nobody;
+  EXPECT_FALSE(files.writeAtomically("new", path(u"place/file"_s)));
+  EXPECT_TRUE(files.write("new", path(u"place/file"_s)));
+  EXPECT_EQ(files.contents(path(u"place/file"_s)), "new");
+  EXPECT_FALSE(files.write("new", path(u"place/other"_s)));
+}
+
+TEST_F(PosixFileManagerTest, WriteOver_AFileElsewhere_ReplacesItInOneStep) {
+  TemporaryHome::write(path(u"file"_s), "old");
+  const auto inode = [this] {
+    struct stat status {};
+    stat(QFile::encodeName(path(u"file"_s)).constData(), &status);
+    return status.st_ino;
+  };
+  const ino_t before = inode();
+  EXPECT_TRUE(files.write("new", path(u"file"_s)));
+  EXPECT_EQ(files.contents(path(u"file"_s)), "new");
+  EXPECT_NE(inode(), before);
 }
 
 TEST_F(PosixFileManagerTest, Directory_ListsNamesWithoutTheHiddenOnes) {

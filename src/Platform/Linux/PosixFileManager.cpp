@@ -43,6 +43,27 @@ std::optional<QString> linkTarget(const QString &path) {
   return {};
 }
 
+/// Where no file can be made beside the one at \p path, fails or writes over it, as \p mayWriteOver
+/// says.
+bool replaceFile(QByteArrayView bytes, const QString &path, bool mayWriteOver) {
+  const std::optional<QString> target = linkTarget(path);
+  if (!target || (QFileInfo::exists(*target) && !QFileInfo(*target).isFile())) {
+    qCWarning(files) << path << "is no file that could be replaced";
+    return false;
+  }
+  QSaveFile file(*target);
+  file.setDirectWriteFallback(mayWriteOver);
+  // commit() overlooks a failure to write what is still in the buffer, or to reach the disk, and
+  // would put the stump in place of a good file.
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), bytes.size()) != bytes.size() ||
+      !file.flush() || fsync(file.handle()) != 0 || !file.commit()) {
+    qCWarning(files) << path << "cannot be written:" << file.errorString();
+    return false;
+  }
+  flushDirectory(QFileInfo(*target).path());
+  return true;
+}
+
 }  // namespace
 
 QString PosixFileManager::applicationSupportDirectory() const {
@@ -75,21 +96,11 @@ std::optional<QByteArray> PosixFileManager::contents(const QString &path) const 
 }
 
 bool PosixFileManager::writeAtomically(QByteArrayView bytes, const QString &path) {
-  const std::optional<QString> target = linkTarget(path);
-  if (!target || (QFileInfo::exists(*target) && !QFileInfo(*target).isFile())) {
-    qCWarning(files) << path << "is no file that could be replaced";
-    return false;
-  }
-  QSaveFile file(*target);
-  // commit() overlooks a failure to write what is still in the buffer, or to reach the disk, and
-  // would put the stump in place of a good file.
-  if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), bytes.size()) != bytes.size() ||
-      !file.flush() || fsync(file.handle()) != 0 || !file.commit()) {
-    qCWarning(files) << path << "cannot be written:" << file.errorString();
-    return false;
-  }
-  flushDirectory(QFileInfo(*target).path());
-  return true;
+  return replaceFile(bytes, path, false);
+}
+
+bool PosixFileManager::write(QByteArrayView bytes, const QString &path) {
+  return replaceFile(bytes, path, true);
 }
 
 std::optional<QStringList> PosixFileManager::contentsOfDirectory(const QString &path) const {

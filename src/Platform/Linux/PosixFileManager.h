@@ -16,6 +16,7 @@ class PosixFileManager : public FileManager {
   /// Regular files only, through links too: a pipe would keep the program waiting.
   std::optional<QByteArray> contents(const QString &path) const override;
   bool writeAtomically(QByteArrayView bytes, const QString &path) override;
+  bool write(QByteArrayView bytes, const QString &path) override;
   std::optional<QStringList> contentsOfDirectory(const QString &path) const override;
   std::optional<Date> creationDate(const QString &path) const override;
   bool removeItem(const QString &path) override;

@@ -3,6 +3,7 @@
 #include "Views/Controls/FormSection.h"
 #include "Views/Style/SlimScrollBar.h"
 
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QVBoxLayout>
 
 namespace lanternix {
@@ -28,6 +29,17 @@ FormView::FormView(QWidget *parent) : QScrollArea(parent) {
   setFocusPolicy(Qt::NoFocus);
   viewport()->setAutoFillBackground(false);
   new SlimScrollBar(this);  // which owns it
+  // What the keyboard moves to comes into sight; what is clicked stays under the pointer.
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget * /*old*/, QWidget *now) {
+    if (now != nullptr && widget()->isAncestorOf(now) &&
+        QGuiApplication::mouseButtons() == Qt::NoButton) {
+      ensureWidgetVisible(now);
+    }
+  });
+}
+
+void FormView::setPadding(int sides, int ends) {
+  m_sections->setContentsMargins(sides, ends, sides, ends);
 }
 
 FormSection &FormView::addSection(const QString &title) {

@@ -18,6 +18,9 @@ class FormView : public QScrollArea {
   /// Appends a section, which the form owns. An empty \p title takes no room.
   FormSection &addSection(const QString &title);
 
+  /// The room around all sections, in place of what suits a whole window.
+  void setPadding(int sides, int ends);
+
  private:
   QVBoxLayout *m_sections;
 };

@@ -1,5 +1,6 @@
 #include "Views/Controls/SheetDialog.h"
 
+#include "Views/Controls/FormView.h"
 #include "Views/Style/DividerLine.h"
 #include "Views/Style/TextLabel.h"
 
@@ -14,21 +15,25 @@ namespace lanternix {
 namespace {
 
 constexpr int padding = 16;
+constexpr int formEndPadding = 12;
 
 }  // namespace
 
 SheetDialog::SheetDialog(const QString &title, const QString &confirmation, QSize size,
                          QWidget *window)
-    : QDialog(window), m_content(new QVBoxLayout), m_confirm(new QPushButton(confirmation, this)) {
+    : QDialog(window), m_form(new FormView(this)), m_confirm(nullptr) {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowModality(Qt::WindowModal);
   setWindowTitle(title);
   setFixedSize(size);
   auto *header = new TextLabel(title, TextStyle::body, QFont::Bold, FillStyle::primary, this);
-  header->setContentsMargins(padding, padding, padding, padding);
+  auto *headerBar = new QHBoxLayout;
+  headerBar->setContentsMargins(padding, padding, padding, padding);
+  headerBar->addWidget(header);
 
   auto *cancel = new QPushButton(u"Cancel"_s, this);
   cancel->setAutoDefault(false);
+  m_confirm = new QPushButton(confirmation, this);
   m_confirm->setDefault(true);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   connect(m_confirm, &QPushButton::clicked, this, &SheetDialog::confirmed);
@@ -38,13 +43,14 @@ SheetDialog::SheetDialog(const QString &title, const QString &confirmation, QSiz
   bar->addWidget(cancel);
   bar->addWidget(m_confirm);
 
-  m_content->setContentsMargins(0, 0, 0, 0);
+  // In line with the title, and close, so that what is usual needs no scrolling.
+  m_form->setPadding(padding, formEndPadding);
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(header);
+  layout->addLayout(headerBar);
   layout->addWidget(new DividerLine(this));
-  layout->addLayout(m_content, 1);
+  layout->addWidget(m_form, 1);
   layout->addWidget(new DividerLine(this));
   layout->addLayout(bar);
 }

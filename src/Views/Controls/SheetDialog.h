@@ -3,9 +3,10 @@
 #include <QtWidgets/QDialog>
 
 class QPushButton;
-class QVBoxLayout;
 
 namespace lanternix {
+
+class FormView;
 
 /// An editor over a window, which waits until it is done: a title, a form, and a bar with "Cancel"
 /// (Escape) and a confirming button (Return).
@@ -21,12 +22,12 @@ class SheetDialog : public QDialog {
   void confirmed();
 
  protected:
-  /// Where the form goes, between the title and the bar.
-  QVBoxLayout &content() { return *m_content; }
+  /// What is edited, between the title and the bar.
+  FormView &form() { return *m_form; }
   void setConfirmable(bool confirmable);
 
  private:
-  QVBoxLayout *m_content;
+  FormView *m_form;
   QPushButton *m_confirm;
 };
 

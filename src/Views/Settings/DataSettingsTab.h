@@ -1,16 +1,56 @@
 #pragma once
 
-#include <QtWidgets/QWidget>
+#include "Services/BackupInfo.h"
+#include "Views/Controls/FormView.h"
+#include "Views/Settings/DesktopFileChooser.h"
 
 namespace lanternix {
 
 class AppState;
+class Stepper;
+class TextLabel;
 
-class DataSettingsTab : public QWidget {
+/// The tab of the settings for what is kept: export and import, backups, and how much there is.
+///
+/// Success is told whenever the user has carried an action through, also when a file could not be
+/// written or held nothing to import; what failed is in the log.
+class DataSettingsTab : public FormView {
   Q_OBJECT
 
  public:
-  explicit DataSettingsTab(AppState &appState, QWidget *parent = nullptr);
+  /// Of a greater file not a byte is read: no document comes near, and reading one would keep the
+  /// program from answering.
+  static constexpr qint64 largestImport = qint64{128} << 20;
+
+  /// \p fileChooser answers for the files of export and import.
+  explicit DataSettingsTab(AppState &appState, QWidget *parent = nullptr,
+                           FileChooser &fileChooser = DesktopFileChooser::shared());
+
+ protected:
+  void showEvent(QShowEvent *event) override;
+
+ private:
+  void addExchangeSection();
+  void addBackupSection();
+  void addStatisticsSection();
+  void exportData();
+  void importData();
+  void importFile(const QString &path);
+  void setRetention(int count);
+  void createBackup();
+  void loadBackups();
+  void confirmRestore(const BackupInfo &backup);
+  void updateStatistics();
+
+  AppState &m_appState;
+  FileChooser &m_fileChooser;
+  Stepper *m_retention;
+  FormSection *m_savedBackups;
+  TextLabel *m_groups;
+  TextLabel *m_items;
+  TextLabel *m_directories;
+  TextLabel *m_files;
+  TextLabel *m_links;
 };
 
 }  // namespace lanternix

@@ -2,20 +2,51 @@
 
 #include "Models/PathItem.h"
 #include "Views/Controls/SheetDialog.h"
+#include "Views/Settings/DesktopFileChooser.h"
 
 #include <optional>
+
+class QLabel;
+class QPushButton;
 
 namespace lanternix {
 
 class AppState;
+class FormSection;
+class GroupPicker;
+class TextField;
 
-/// The sheet in which a item is made, or edited when one is given.
+/// The sheet in which an item is made or edited: its type (only while it is made), its name, its
+/// path, and the group it belongs to.
 class ItemEditorView : public SheetDialog {
   Q_OBJECT
 
  public:
+  /// Without \p editingItem the sheet makes a new item, in the group with \p preselectedGroupId
+  /// unless the user chooses another. \p fileChooser answers "Browse...".
   ItemEditorView(AppState &appState, std::optional<PathItem> editingItem,
-                 std::optional<QUuid> preselectedGroupId, QWidget *window);
+                 std::optional<QUuid> preselectedGroupId, QWidget *window,
+                 FileChooser &fileChooser = DesktopFileChooser::shared());
+
+ private:
+  void addTypeRow(FormSection &section);
+  void setSelectedType(ItemType type);
+  void browseForPath();
+  void setChosenPath(const QString &path);
+  QString trimmedName() const;
+  QString trimmedPath() const;
+  bool isValid() const;
+  void save();
+
+  AppState &m_appState;
+  std::optional<PathItem> m_editingItem;
+  FileChooser &m_fileChooser;
+  ItemType m_selectedType;
+  TextField *m_name;
+  QLabel *m_pathTitle;
+  TextField *m_path;
+  QPushButton *m_browse;
+  GroupPicker *m_group;
 };
 
 }  // namespace lanternix

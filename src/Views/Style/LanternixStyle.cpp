@@ -157,6 +157,8 @@ QSize LanternixStyle::sizeFromContents(ContentsType type, const QStyleOption *op
 int LanternixStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                               QStyleHintReturn *returned) const {
   switch (hint) {
+    case SH_ComboBox_AllowWheelScrolling:
+      return 0;  // the wheel is meant for the page under the pointer
     case SH_Widget_Animate:
       return m_isMotionReduced ? 0 : 1;
     case SH_Widget_Animation_Duration:

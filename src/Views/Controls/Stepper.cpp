@@ -1,0 +1,63 @@
+#include "Views/Controls/Stepper.h"
+
+#include <QtGui/QWheelEvent>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+namespace {
+
+/// The digits at the start of \p text, whatever blanks stand before them.
+QStringView leadingNumber(QStringView text) {
+  text = text.trimmed();
+  qsizetype length = 0;
+  while (length < text.size() && text[length] >= u'0' && text[length] <= u'9') {
+    ++length;
+  }
+  return text.first(length);
+}
+
+}  // namespace
+
+Stepper::Stepper(const QString &name, QString unit, int minimum, int maximum, QWidget *parent)
+    : QSpinBox(parent), m_unit(std::move(unit)) {
+  setAccessibleName(name);
+  setRange(minimum, maximum);
+  setKeyboardTracking(false);
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+QString Stepper::textFromValue(int value) const {
+  return QString::number(value) + u' ' + m_unit + (value == 1 ? QString() : u"s"_s);
+}
+
+int Stepper::valueFromText(const QString &text) const {
+  return leadingNumber(text).toInt();
+}
+
+QValidator::State Stepper::validate(QString &input, int & /*position*/) const {
+  const QStringView number = leadingNumber(input);
+  const QStringView trimmed = QStringView(input).trimmed();
+  const QStringView rest = trimmed.sliced(number.size()).trimmed();
+  if (!QString(m_unit + u's').startsWith(rest)) {
+    return QValidator::Invalid;
+  }
+  if (number.isEmpty()) {
+    return QValidator::Intermediate;
+  }
+  bool isNumber = false;
+  const int value = number.toInt(&isNumber);
+  if (!isNumber || value > maximum()) {
+    return QValidator::Invalid;
+  }
+  return value < minimum() ? QValidator::Intermediate : QValidator::Acceptable;
+}
+
+void Stepper::wheelEvent(QWheelEvent *event) {
+  event->ignore();
+}
+
+}  // namespace lanternix

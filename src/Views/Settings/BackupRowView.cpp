@@ -1,0 +1,53 @@
+#include "Views/Settings/BackupRowView.h"
+
+#include "Utilities/DateText.h"
+#include "Views/Style/DisplayText.h"
+#include "Views/Style/TextLabel.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QLocale>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+namespace {
+
+/// The name, and the size unless the file is gone.
+QString fileText(const BackupInfo &backup) {
+  const QFileInfo file(backup.url);
+  const QString name = DisplayText::singleLine(file.fileName());
+  if (!file.exists()) {
+    return name;
+  }
+  return name + u" · "_s + QLocale::system().formattedDataSize(file.size());
+}
+
+}  // namespace
+
+BackupRowView::BackupRowView(const BackupInfo &backup, QWidget *parent) : QWidget(parent) {
+  const QString date = DateText::mediumDateShortTime(backup.date);
+  auto *texts = new QVBoxLayout;
+  texts->setSpacing(2);
+  texts->addWidget(new TextLabel(date, TextStyle::body, QFont::Medium, FillStyle::primary, this));
+  auto *file = new TextLabel(fileText(backup), TextStyle::caption2, QFont::Normal,
+                             FillStyle::secondary, this);
+  // A name may be long; the button stays in sight.
+  file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  texts->addWidget(file);
+
+  auto *restore = new QPushButton(u"Restore"_s, this);
+  restore->setFont(textFont(TextStyle::subheadline));
+  restore->setAccessibleDescription(date);
+  connect(restore, &QPushButton::clicked, this, &BackupRowView::restoreRequested);
+
+  auto *layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addLayout(texts, 1);
+  layout->addWidget(restore);
+}
+
+}  // namespace lanternix

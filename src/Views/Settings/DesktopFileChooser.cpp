@@ -1,0 +1,72 @@
+#include "Views/Settings/DesktopFileChooser.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
+#include <QtCore/QUrl>
+#include <QtWidgets/QFileDialog>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+namespace {
+
+void setKind(QFileDialog &dialog, FileChooser::Kind kind) {
+  switch (kind) {
+    case FileChooser::Kind::directory:
+      dialog.setFileMode(QFileDialog::Directory);
+      dialog.setOption(QFileDialog::ShowDirsOnly);
+      dialog.setOption(QFileDialog::ReadOnly);  // nothing is made or renamed on the way
+      break;
+    case FileChooser::Kind::file:
+      dialog.setFileMode(QFileDialog::ExistingFile);
+      dialog.setOption(QFileDialog::ReadOnly);
+      break;
+    case FileChooser::Kind::fileToReplace:
+      dialog.setFileMode(QFileDialog::AnyFile);
+      dialog.setAcceptMode(QFileDialog::AcceptSave);
+      break;
+  }
+}
+
+void setStart(QFileDialog &dialog, const FileChooser::Request &request) {
+  const QFileInfo start(request.start);
+  if (request.start.isEmpty() || !start.isAbsolute()) {
+    dialog.setDirectory(QDir::homePath());
+  } else if (start.isDir()) {
+    dialog.setDirectory(request.start);
+  } else if (start.dir().exists() &&
+             (start.exists() || request.kind == FileChooser::Kind::fileToReplace)) {
+    dialog.setDirectory(start.dir());
+    dialog.selectFile(start.fileName());
+  } else {
+    dialog.setDirectory(QDir::homePath());
+  }
+}
+
+}  // namespace
+
+DesktopFileChooser &DesktopFileChooser::shared() {
+  static DesktopFileChooser chooser;
+  return chooser;
+}
+
+void DesktopFileChooser::choose(const Request &request, QWidget *window, const Chosen &chosen) {
+  auto *dialog = new QFileDialog(window, request.title);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->setWindowModality(Qt::WindowModal);
+  dialog->setSupportedSchemes({u"file"_s});
+  setKind(*dialog, request.kind);
+  if (!request.nameFilters.isEmpty()) {
+    dialog->setNameFilters(request.nameFilters);
+  }
+  setStart(*dialog, request);
+  QObject::connect(dialog, &QFileDialog::fileSelected, window, [chosen](const QString &path) {
+    if (!path.isEmpty()) {
+      chosen(path);
+    }
+  });
+  dialog->open();
+}
+
+}  // namespace lanternix

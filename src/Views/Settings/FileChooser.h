@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+#include <functional>
+
+class QWidget;
+
+namespace lanternix {
+
+/// Lets the user choose a file or a directory. Tests answer in the user's place.
+class FileChooser {
+ public:
+  enum class Kind {
+    directory,     ///< one that exists; files cannot be chosen
+    file,          ///< one that exists; directories cannot be chosen
+    fileToReplace  ///< one to be written, existing or not
+  };
+
+  struct Request {
+    Kind kind = Kind::file;
+    QString title;
+    /// Such as "JSON Files (*.json)"; empty lets every file be chosen.
+    QStringList nameFilters;
+    /// What is proposed: a directory to start in, or a path whose last part is the proposed name.
+    /// Where it leads nowhere, choosing starts at home.
+    QString start;
+  };
+
+  /// Receives the path of what was chosen.
+  using Chosen = std::function<void(const QString &path)>;
+
+  virtual ~FileChooser() = default;
+
+  /// Asks over \p window and returns. \p chosen is called at most once: never when the user cancels
+  /// or \p window ends first.
+  virtual void choose(const Request &request, QWidget *window, const Chosen &chosen) = 0;
+};
+
+}  // namespace lanternix

@@ -1,0 +1,95 @@
+#include "views/DataSettingsTabTest.h"
+
+#include <QtGui/QWheelEvent>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+namespace {
+
+class DataTabRetentionTest : public DataSettingsTabTest {};
+
+}  // namespace
+
+TEST_F(DataTabRetentionTest, TheRetention_CountsInDays) {
+  state->setBackupRetentionDays(2);
+  show();
+  EXPECT_EQ(stepper()->text(), u"2 days"_s);
+  stepper()->stepDown();
+  EXPECT_EQ(stepper()->text(), u"1 day"_s);
+  EXPECT_EQ(state->backupRetentionDays(), 1);
+}
+
+TEST_F(DataTabRetentionTest, TheRetention_StopsAt1AndAt365) {
+  state->setBackupRetentionDays(1);
+  show();
+  stepper()->stepDown();
+  EXPECT_EQ(state->backupRetentionDays(), 1);
+  state->setBackupRetentionDays(364);
+  stepper()->stepUp();
+  stepper()->stepUp();
+  EXPECT_EQ(state->backupRetentionDays(), 365);
+}
+
+TEST_F(DataTabRetentionTest, LoweringTheRetention_RemovesTheOldestBackupsAtOnce) {
+  writeBackups(4);
+  state->setBackupRetentionDays(5);
+  show();
+  stepper()->stepDown();
+  EXPECT_EQ(backupFiles().size(), 4);
+  EXPECT_TRUE(texts(*tab).contains(u"Saved Backups (4)"_s));
+}
+
+TEST_F(DataTabRetentionTest, TypingANumber_AppliesItWhenItIsFinished) {
+  writeBackups(4);
+  show();
+  stepper()->setFocus();
+  stepper()->selectAll();
+  type(*tab, u"30"_s);
+  EXPECT_EQ(state->backupRetentionDays(), 15);
+  EXPECT_EQ(backupFiles().size(), 5);  // and not three, on the way to thirty
+  press(*tab, Qt::Key_Return);
+  EXPECT_EQ(state->backupRetentionDays(), 30);
+  EXPECT_EQ(stepper()->text(), u"30 days"_s);
+  EXPECT_EQ(backupFiles().size(), 5);
+}
+
+TEST_F(DataTabRetentionTest, TypingATooLargeNumber_IsNotTaken) {
+  show();
+  stepper()->setFocus();
+  stepper()->selectAll();
+  type(*tab, u"400"_s);
+  press(*tab, Qt::Key_Return);
+  EXPECT_EQ(state->backupRetentionDays(), 40);
+}
+
+TEST_F(DataTabRetentionTest, TypingNothingOrZero_LeavesTheRetention) {
+  show();
+  for (const QString &text : {u" "_s, u"0"_s}) {
+    stepper()->setFocus();
+    stepper()->selectAll();
+    type(*tab, text);
+    press(*tab, Qt::Key_Return);
+    EXPECT_EQ(state->backupRetentionDays(), 15);
+    EXPECT_EQ(stepper()->text(), u"15 days"_s);
+  }
+}
+
+TEST_F(DataTabRetentionTest, TheWheelOverTheStepper_RemovesNoBackups) {
+  show();
+  stepper()->setFocus();
+  QWheelEvent turn(QPointF(5, 5), stepper()->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120),
+                   Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(stepper(), &turn);
+  EXPECT_EQ(state->backupRetentionDays(), 15);
+}
+
+TEST_F(DataTabRetentionTest, AStoredRetentionBeyondTheRange_StaysUntilItIsChanged) {
+  state->setBackupRetentionDays(1000);
+  show();
+  EXPECT_EQ(stepper()->text(), u"365 days"_s);
+  EXPECT_EQ(state->backupRetentionDays(), 1000);
+}
+
+}  // namespace lanternix

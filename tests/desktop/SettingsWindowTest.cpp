@@ -90,23 +90,15 @@ TEST_F(SettingsWindowTest, OpenedAgain_StandsWhereItWasMovedTo) {
   openSettings();
   program().settle();
   const QRect before = session().windows().geometry(settings());
-  const QRect frame = session().windows().frameGeometry(settings());
-  const QPoint title(before.center().x(), (frame.top() + before.top()) / 2);
-  input().moveTo(title);
-  input().pressButton();
-  // The first move only begins the drag.
-  input().moveTo(title + QPoint(-20, 15));
-  session().windowManager()->settle();
-  input().moveTo(title + QPoint(-70, 45));
-  ASSERT_TRUE(waitUntil(
-      [&] { return session().windows().geometry(settings()) == before.translated(-70, 45); }));
-  input().releaseButton();
+  moveSettings(session().windows().frameGeometry(settings()).topLeft() + QPoint(-70, 45));
+  ASSERT_TRUE(waitUntil([&] { return session().windows().geometry(settings()) != before; }));
+  program().settle();
+  const QRect moved = session().windows().geometry(settings());
   closeSettings();
   showByShortcut();
   pressSettingsKeys();
   requireSettings();
-  EXPECT_TRUE(waitUntil(
-      [&] { return session().windows().geometry(settings()) == before.translated(-70, 45); }));
+  EXPECT_TRUE(waitUntil([&] { return session().windows().geometry(settings()) == moved; }));
 }
 
 TEST_F(SettingsWindowTest, Closed_TheProgramGoesOn) {

@@ -4,6 +4,7 @@
 #include "support/AccessibilityBus.h"
 
 #include <X11/keysym.h>
+#include <array>
 
 namespace lanternix {
 
@@ -40,6 +41,15 @@ class SettingsWindowTest : public DesktopTest {
   void closeSettings() {
     input().tap(XK_w, {XK_Control_L});
     require(QStringLiteral("the settings to close"), [this] { return !areSettingsShown(); });
+  }
+
+  /// Asks the window manager, as a pager does, to move the window's frame.
+  void moveSettings(QPoint corner) {
+    const XConnection &connection = session().windows().connection();
+    const std::array<int, 2> place{corner.x(), corner.y()};
+    xcb_configure_window(connection, settings(), XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y,
+                         place.data());
+    connection.sync();
   }
 
   AccessibilityBus::Node window(const QString &title) {

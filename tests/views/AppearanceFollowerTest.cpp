@@ -37,7 +37,7 @@ class AppearanceFollowerTest : public ViewTest {
   ~AppearanceFollowerTest() override {
     follower.reset();
     view.reset();
-    QApplication::setStyle(new LanternixStyle);  // as the other tests find it
+    QApplication::setStyle(new LanternixStyle);  // owned by the application
     QApplication::setPalette(QPalette());
     QApplication::setFont(font);
     QCoreApplication::processEvents();

@@ -8,6 +8,7 @@
 #include "Services/Preferences.h"
 #include "Utilities/FloatingPanel.h"
 #include "Views/Panel/PopupPanelView.h"
+#include "Views/Settings/SettingsView.h"
 
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
@@ -37,11 +38,12 @@ int storedLength(const UserDefaults &userDefaults, const Preference<double> &pre
 }  // namespace
 
 AppDelegate::AppDelegate(const Doors &doors, WindowSystem &windowSystem,
-                         GlobalMouseMonitor &mouseMonitor, QObject *parent)
+                         GlobalMouseMonitor &mouseMonitor, LoginItem &loginItem, QObject *parent)
     : QObject(parent),
       m_userDefaults(doors.userDefaults),
       m_windowSystem(windowSystem),
       m_mouseMonitor(mouseMonitor),
+      m_loginItem(loginItem),
       m_appState(doors) {}
 
 AppDelegate::~AppDelegate() {
@@ -63,6 +65,7 @@ void AppDelegate::setupPanel() {
   m_panel->setContentView(std::move(content));
   m_appState.onHide = [this] { m_panel->orderOut(); };
   m_appState.onShowPanel = [this] { showPanel(); };
+  m_appState.onOpenSettings = [this] { openSettings(); };
   connect(m_panel.get(), &FloatingPanel::didEndLiveResize, this, &AppDelegate::storePanelSize);
   connect(m_panel.get(), &FloatingPanel::closeRequested, &m_appState, &AppState::hidePanel);
 
@@ -91,6 +94,17 @@ void AppDelegate::showPanel() {
   }
   m_panel->makeKeyAndOrderFront();
   m_appState.setPanelVisible(true);
+}
+
+void AppDelegate::openSettings() {
+  if (m_panel && m_panel->isVisible()) {
+    m_appState.hidePanel();
+  }
+  if (!m_settings) {
+    m_settings = std::make_unique<SettingsView>(m_appState, m_loginItem);
+  }
+  m_settings->present();
+  m_windowSystem.activate(*m_settings->windowHandle());
 }
 
 QRect AppDelegate::panelFrame(const QRect &workArea) const {

@@ -14,17 +14,19 @@ namespace lanternix {
 class FloatingPanel;
 class GlobalMouseMonitor;
 class LocalKeyMonitor;
+class LoginItem;
+class SettingsView;
 class WindowSystem;
 
-/// The program's top: owns the store and the panel, shows and hides the panel, hands its keys to
-/// the store, hides it on a press elsewhere and remembers its size.
+/// The program's top: owns the store, the panel and the settings window, shows and hides the panel,
+/// hands its keys to the store, hides it on a press elsewhere and remembers its size.
 class AppDelegate : public QObject {
   Q_OBJECT
 
  public:
   /// Makes the store, which reads the data and registers the shortcut.
   AppDelegate(const Doors &doors, WindowSystem &windowSystem, GlobalMouseMonitor &mouseMonitor,
-              QObject *parent = nullptr);
+              LoginItem &loginItem, QObject *parent = nullptr);
   ~AppDelegate() override;
 
   AppState &appState() { return m_appState; }
@@ -35,6 +37,9 @@ class AppDelegate : public QObject {
   /// Shows the panel in its stored size on the screen the user works on, with the keyboard. Before
   /// applicationDidFinishLaunching(): nothing.
   void showPanel();
+
+  /// Hides the panel and shows the settings window in front, with the keyboard.
+  void openSettings();
 
  private:
   void setupPanel();
@@ -48,9 +53,12 @@ class AppDelegate : public QObject {
   UserDefaults &m_userDefaults;
   WindowSystem &m_windowSystem;
   GlobalMouseMonitor &m_mouseMonitor;
+  LoginItem &m_loginItem;
   AppState m_appState;
   std::unique_ptr<FloatingPanel> m_panel;
   std::unique_ptr<LocalKeyMonitor> m_keyMonitor;
+  /// Made when it is first opened.
+  std::unique_ptr<SettingsView> m_settings;
 };
 
 }  // namespace lanternix

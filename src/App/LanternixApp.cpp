@@ -4,12 +4,16 @@
 #include "App/AppearanceFollower.h"
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
+#include "Platform/TerminationMonitor.h"
 #include "Platform/WindowSystem.h"
+#include "Views/MenuBar/StatusItem.h"
 #include "Views/Panel/PanelAccessibility.h"
+#include "Views/Settings/SettingsAccessibility.h"
 #include "Views/Style/ApplicationIcon.h"
 #include "Views/Style/LanternixStyle.h"
 
 #include <QtGui/QPixmapCache>
+#include <QtGui/QSessionManager>
 #include <QtWidgets/QApplication>
 
 #include <cstdio>
@@ -19,6 +23,21 @@ using namespace Qt::StringLiterals;
 namespace lanternix {
 
 namespace {
+
+/// Whoever ends the program, ends it: the usual way would ask every window, and the panel, which is
+/// hidden rather than closed, would refuse.
+class Application : public QApplication {
+ public:
+  using QApplication::QApplication;
+
+  bool event(QEvent *event) override {
+    if (event->type() == QEvent::Quit) {
+      exit(EXIT_SUCCESS);
+      return true;
+    }
+    return QApplication::event(event);
+  }
+};
 
 // Qt ends a program that finds no display by aborting it; a sentence serves people better.
 bool hasDisplay() {
@@ -30,6 +49,39 @@ void followCompositing(const WindowSystem &windowSystem, LanternixStyle &style) 
   const auto apply = [&windowSystem, &style] { style.setSoftEdges(windowSystem.isComposited()); };
   QObject::connect(&windowSystem, &WindowSystem::compositingChanged, &style, apply);
   apply();
+}
+
+std::unique_ptr<StatusItem> makeStatusItem(AppDelegate &delegate, Platform &platform) {
+  auto item = std::make_unique<StatusItem>(delegate.appState(), platform.systemTray());
+  QObject::connect(item.get(), &StatusItem::quitRequested, QCoreApplication::instance(),
+                   &QCoreApplication::quit);
+  return item;
+}
+
+/// Ends the event loop, and with it the program, when the system wants that.
+void followTermination(const Application &application, const TerminationMonitor &monitor) {
+  QObject::connect(&monitor, &TerminationMonitor::terminationRequested, &application,
+                   &QCoreApplication::quit);
+  // Whether the program starts at login is for the login item alone to say.
+  QObject::connect(
+      &application, &QGuiApplication::saveStateRequest, &application,
+      [](QSessionManager &session) { session.setRestartHint(QSessionManager::RestartNever); });
+}
+
+/// The session's one program, until its end.
+int runShell(const SingleInstance &instance, LanternixStyle &style) {
+  const std::unique_ptr<Platform> platform = Platform::create();
+  followCompositing(platform->windowSystem(), style);
+  const AppearanceFollower appearance(platform->systemAppearance(), style);
+  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor(),
+                       platform->loginItem());
+  QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showPanel);
+  delegate.applicationDidFinishLaunching();
+  std::unique_ptr<StatusItem> statusItem;
+  // Queued: a tray can wait until the program answers its shortcut.
+  QMetaObject::invokeMethod(
+      &delegate, [&] { statusItem = makeStatusItem(delegate, *platform); }, Qt::QueuedConnection);
+  return QApplication::exec();
 }
 
 }  // namespace
@@ -45,25 +97,21 @@ int LanternixApp::run(int argc, char **argv) {
   QApplication::setStyle(style);
   // The program takes no options, so Qt's own are not offered either.
   int count = qMin(argc, 1);
-  const QApplication application(count, argv);
+  const Application application(count, argv);
+  const std::unique_ptr<TerminationMonitor> termination = makeTerminationMonitor();
+  followTermination(application, *termination);
   QApplication::setQuitOnLastWindowClosed(false);
   // Its clean-up runs on a timer, which would wake the program while the panel is hidden.
   QPixmapCache::setCacheLimit(0);
   QApplication::setWindowIcon(applicationIcon());
   PanelAccessibility::install();
+  SettingsAccessibility::install();
 
   const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
   if (!instance->claim()) {
     return 0;
   }
-  const std::unique_ptr<Platform> platform = Platform::create();
-  followCompositing(platform->windowSystem(), *style);
-  const AppearanceFollower appearance(platform->systemAppearance(), *style);
-  AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor());
-  QObject::connect(instance.get(), &SingleInstance::showRequested, &delegate,
-                   &AppDelegate::showPanel);
-  delegate.applicationDidFinishLaunching();
-  return QApplication::exec();
+  return runShell(*instance, *style);
 }
 
 }  // namespace lanternix

@@ -34,6 +34,11 @@ constexpr quint32 noBreakSpace = 0xa0;
 constexpr quint32 narrowNoBreakSpace = 0x0100202f;
 constexpr quint32 firstMedia = 0x10080000;
 constexpr quint32 lastMedia = 0x1008ffff;
+constexpr quint32 firstLevelSwitch = 0xfe01;  // ISO_Lock to ISO_Level5_Lock
+constexpr quint32 lastLevelSwitch = 0xfe13;
+constexpr quint32 modeSwitch = 0xff7e;
+constexpr quint32 firstModifier = 0xffe1;  // Shift_L to Hyper_R
+constexpr quint32 lastModifier = 0xffee;
 }  // namespace Symbol
 
 constexpr quint32 functionKey(quint32 number) {
@@ -228,6 +233,15 @@ std::optional<quint32> virtualCodeForPress(quint32 nativeScanCode, quint32 keySy
   const bool standsByPosition = key->keySymbol == Symbol::position ||
                                 (isFunctionKey(*key) && isUsualOnFunctionKey(keySymbol));
   return standsByPosition ? std::optional(key->virtualCode) : std::nullopt;
+}
+
+bool isModifier(quint32 keySymbol) {
+  const auto isBetween = [keySymbol](quint32 first, quint32 last) {
+    return keySymbol >= first && keySymbol <= last;
+  };
+  return isBetween(Symbol::firstModifier, Symbol::lastModifier) ||
+         isBetween(Symbol::firstLevelSwitch, Symbol::lastLevelSwitch) ||
+         keySymbol == Symbol::modeSwitch;
 }
 
 }  // namespace lanternix::KeyCodes

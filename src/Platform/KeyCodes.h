@@ -50,6 +50,11 @@ std::optional<Key> keyForVirtualCode(quint32 virtualCode);
 /// for a position whose named key the user has put elsewhere.
 std::optional<quint32> virtualCodeForPress(quint32 nativeScanCode, quint32 keySymbol);
 
+/// Whether a key that means \p keySymbol, an X key symbol, acts only on other keys: Shift, Control,
+/// Caps Lock, the level and group switches of layouts. On some layouts those stand where others
+/// have characters.
+bool isModifier(quint32 keySymbol);
+
 }  // namespace KeyCodes
 
 }  // namespace lanternix

@@ -7,8 +7,11 @@
 namespace lanternix {
 
 class GlobalMouseMonitor;
+class LoginItem;
 class SingleInstance;
 class SystemAppearance;
+class SystemTray;
+class TerminationMonitor;
 class WindowSystem;
 
 /// Every door of the program, as the present session offers it. A null object stands where the
@@ -24,10 +27,17 @@ class Platform {
   virtual WindowSystem &windowSystem() = 0;
   virtual GlobalMouseMonitor &mouseMonitor() = 0;
   virtual SystemAppearance &systemAppearance() = 0;
+  virtual LoginItem &loginItem() = 0;
+  /// Nobody asks for a tray before the first call.
+  virtual SystemTray &systemTray() = 0;
 };
 
 /// The guard of the session's one program. Apart from the others, because it is asked before
 /// anything else is made. Only with a QCoreApplication.
 std::unique_ptr<SingleInstance> makeSingleInstance();
+
+/// The ear for the system's wish that the program end; from when it is made, the program is no
+/// longer ended without warning. Only with a QCoreApplication.
+std::unique_ptr<TerminationMonitor> makeTerminationMonitor();
 
 }  // namespace lanternix

@@ -46,10 +46,25 @@ void HotkeyService::setCurrentShortcut(const HotkeyShortcut &shortcut) {
   const bool changed = shortcut != m_currentShortcut;
   m_currentShortcut = shortcut;
   m_userDefaults.setData(shortcut.encoded(), Preferences::globalShortcut);
-  m_registrar.unregisterHotkey();
-  registerShortcut();
+  if (!m_paused) {
+    m_registrar.unregisterHotkey();
+    registerShortcut();
+  }
   if (changed) {
     Q_EMIT currentShortcutChanged();
+  }
+}
+
+void HotkeyService::setPaused(bool paused) {
+  if (paused == m_paused) {
+    return;
+  }
+  m_paused = paused;
+  if (paused) {
+    m_registrar.unregisterHotkey();
+    m_registered = false;
+  } else {
+    registerShortcut();
   }
 }
 

@@ -32,6 +32,10 @@ class HotkeyService : public QObject {
   /// Whether the system delivers presses of the current shortcut.
   bool isRegistered() const { return m_registered; }
 
+  /// While paused, the shortcut's keys go to the window with the keyboard like all others, and an
+  /// assignment only stores. What holds then is registered at the end of the pause.
+  void setPaused(bool paused);
+
   /// Called once per press, from the event loop and never inside the system's event callback.
   /// A press while it is empty has no effect.
   std::function<void()> onToggle;
@@ -48,6 +52,7 @@ class HotkeyService : public QObject {
   HotkeyRegistrar &m_registrar;
   HotkeyShortcut m_currentShortcut;
   bool m_registered = false;
+  bool m_paused = false;
 };
 
 }  // namespace lanternix

@@ -176,6 +176,20 @@ QString AccessibilityBus::role(const Node &node) const {
   return reply.value();
 }
 
+QRect AccessibilityBus::geometry(const Node &node) const {
+  constexpr uint onScreen = 0;
+  const QDBusMessage reply = call(node, u"org.a11y.atspi.Component"_s, u"GetExtents"_s, {onScreen});
+  const auto argument = reply.arguments().value(0).value<QDBusArgument>();
+  int x = 0;
+  int y = 0;
+  int width = 0;
+  int height = 0;
+  argument.beginStructure();
+  argument >> x >> y >> width >> height;
+  argument.endStructure();
+  return {x, y, width, height};
+}
+
 bool AccessibilityBus::has(const Node &node, State state) const {
   const QDBusReply<QList<uint>> reply = call(node, accessible, u"GetState"_s);
   const auto bit = static_cast<unsigned>(state);

@@ -4,6 +4,7 @@
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
+#include <QtCore/QRect>
 #include <QtDBus/QDBusConnection>
 
 #include <optional>
@@ -36,6 +37,7 @@ class AccessibilityBus : public QObject {
   /// The states that are asked for, by their numbers in the protocol.
   enum class State : unsigned {
     active = 1,
+    checked = 4,
     collapsed = 5,
     editable = 7,
     expandable = 9,
@@ -61,6 +63,8 @@ class AccessibilityBus : public QObject {
   QString description(const Node &node) const;
   /// Such as "tree item".
   QString role(const Node &node) const;
+  /// Where it is on the screen.
+  QRect geometry(const Node &node) const;
   bool has(const Node &node, State state) const;
   /// Whether the program still knows the node.
   bool isKnown(const Node &node) const;

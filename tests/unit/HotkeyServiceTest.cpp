@@ -169,5 +169,42 @@ TEST_F(HotkeyServiceTest, ServiceThatGoes_GivesTheCombinationBack) {
   EXPECT_EQ(registrar.registered, std::nullopt);
 }
 
+TEST_F(HotkeyServiceTest, Pause_GivesTheShortcutBackAndKeepsIt) {
+  const auto service = makeService();
+  service->setPaused(true);
+  EXPECT_EQ(registrar.registered, std::nullopt);
+  EXPECT_FALSE(service->isRegistered());
+  EXPECT_EQ(service->currentShortcut(), HotkeyShortcut());
+}
+
+TEST_F(HotkeyServiceTest, EndOfThePause_RegistersTheShortcutAgain) {
+  const auto service = makeService();
+  service->setPaused(true);
+  service->setPaused(false);
+  EXPECT_EQ(registrar.registered, defaultRegistration);
+  EXPECT_TRUE(service->isRegistered());
+}
+
+TEST_F(HotkeyServiceTest, AssignmentDuringThePause_IsStoredAtOnceAndRegisteredAtItsEnd) {
+  const auto service = makeService();
+  service->setPaused(true);
+  service->setCurrentShortcut(controlK);
+  EXPECT_EQ(stored(), controlK.encoded());
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(registrar.registered, std::nullopt);
+  service->setPaused(false);
+  EXPECT_EQ(registrar.registered, controlKRegistration);
+}
+
+TEST_F(HotkeyServiceTest, PauseWithinAPause_ChangesNothing) {
+  const auto service = makeService();
+  service->setPaused(false);
+  EXPECT_EQ(registrar.registrations, 1);
+  service->setPaused(true);
+  service->setPaused(true);
+  service->setPaused(false);
+  EXPECT_EQ(registrar.registrations, 2);
+}
+
 }  // namespace
 }  // namespace lanternix

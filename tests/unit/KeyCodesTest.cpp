@@ -151,5 +151,20 @@ TEST(KeyCodes, UnknownPositions_AreNoKeys) {
   EXPECT_EQ(virtualCodeForPress(255, XK_a), std::nullopt);
 }
 
+TEST(KeyCodes, KeysThatActOnOthers_AreModifiers) {
+  for (const quint32 keySymbol :
+       {XK_Shift_L, XK_Control_R, XK_Caps_Lock, XK_Super_L, XK_Alt_R, XK_Hyper_R, XK_Mode_switch,
+        XK_ISO_Level3_Shift, XK_ISO_Level5_Shift, XK_ISO_Next_Group}) {
+    EXPECT_TRUE(KeyCodes::isModifier(keySymbol)) << keySymbol;
+  }
+}
+
+TEST(KeyCodes, KeysThatDoSomethingThemselves_AreNoModifiers) {
+  for (const quint32 keySymbol :
+       {XK_a, XK_space, XK_Escape, XK_ISO_Left_Tab, XK_Delete, XK_F1, XK_Num_Lock, XK_KP_0}) {
+    EXPECT_FALSE(KeyCodes::isModifier(keySymbol)) << keySymbol;
+  }
+}
+
 }  // namespace
 }  // namespace lanternix

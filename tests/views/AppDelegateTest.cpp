@@ -1,9 +1,11 @@
 #include "App/AppDelegate.h"
 #include "Platform/GlobalMouseMonitor.h"
 #include "Platform/Linux/QtWindowSystem.h"
+#include "Platform/LoginItem.h"
 #include "Services/Preferences.h"
 #include "Utilities/FloatingPanel.h"
 #include "Views/Panel/PopupPanelView.h"
+#include "Views/Settings/SettingsView.h"
 #include "views/ViewTest.h"
 
 #include <QtGui/QInputMethodEvent>
@@ -36,21 +38,24 @@ class AppDelegateTest : public ViewTest {
   /// Starts the program's own logic and shows the panel.
   void start() {
     writeData({work}, {report, notes});
-    delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor);
+    delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
     delegate->applicationDidFinishLaunching();
     delegate->showPanel();
     ASSERT_NE(panel(), nullptr);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(panel()));
   }
 
-  static FloatingPanel *panel() {
+  template <typename Window>
+  static Window *window() {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
-      if (auto *found = qobject_cast<FloatingPanel *>(widget)) {
+      if (auto *found = qobject_cast<Window *>(widget)) {
         return found;
       }
     }
     return nullptr;
   }
+  static FloatingPanel *panel() { return window<FloatingPanel>(); }
+  static SettingsView *settings() { return window<SettingsView>(); }
 
   /// Presses the key at an X key code that means an X key symbol, as a keyboard would.
   static void press(quint32 keyCode, quint32 keySymbol, Qt::KeyboardModifiers modifiers = {},
@@ -82,13 +87,14 @@ class AppDelegateTest : public ViewTest {
   PathItem notes = item(QStringLiteral("Notes"), work, 1, QStringLiteral("edit notes"));
   QtWindowSystem windowSystem;
   FakeMouseMonitor mouseMonitor;
+  NullLoginItem loginItem;
   std::unique_ptr<AppDelegate> delegate;
 };
 
 }  // namespace
 
 TEST_F(AppDelegateTest, ThePanel_ShowsItselfAfterTheStart) {
-  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor);
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
   delegate->applicationDidFinishLaunching();
   EXPECT_FALSE(panel()->isVisible());
   EXPECT_TRUE(QTest::qWaitFor([] { return panel()->isVisible(); }));
@@ -96,7 +102,7 @@ TEST_F(AppDelegateTest, ThePanel_ShowsItselfAfterTheStart) {
 }
 
 TEST_F(AppDelegateTest, BeforeTheStart_ThereIsNothingToShow) {
-  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor);
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
   delegate->showPanel();
   EXPECT_EQ(panel(), nullptr);
   EXPECT_FALSE(delegate->appState().isPanelVisible());
@@ -205,20 +211,49 @@ TEST_F(AppDelegateTest, AnEscapeThatAnInputMethodLetsPass_HidesThePanelAndEmptie
 
 TEST_F(AppDelegateTest, CommandComma_HidesThePanelAndOpensTheSettings) {
   start();
-  int opened_ = 0;
-  delegate->appState().onOpenSettings = [&] { ++opened_; };
   pressComma(Qt::MetaModifier);
   EXPECT_FALSE(panel()->isVisible());
-  delegate->showPanel();
-  pressComma(Qt::ControlModifier);
-  EXPECT_FALSE(panel()->isVisible());
-  EXPECT_EQ(opened_, 2);
+  ASSERT_NE(settings(), nullptr);
+  EXPECT_TRUE(settings()->isVisible());
 }
 
-TEST_F(AppDelegateTest, CommandComma_WithoutSettings_OnlyHidesThePanel) {
+TEST_F(AppDelegateTest, ControlComma_DoesTheSame) {
   start();
-  pressComma(Qt::MetaModifier);
+  pressComma(Qt::ControlModifier);
   EXPECT_FALSE(panel()->isVisible());
+  ASSERT_NE(settings(), nullptr);
+  EXPECT_TRUE(settings()->isVisible());
+}
+
+TEST_F(AppDelegateTest, TheSettingsWindow_IsMadeOnlyWhenItIsOpened) {
+  start();
+  EXPECT_EQ(settings(), nullptr);
+}
+
+TEST_F(AppDelegateTest, TheSettings_OpenWithTheKeyboard) {
+  start();
+  delegate->appState().onOpenSettings();
+  EXPECT_FALSE(panel()->isVisible());
+  EXPECT_TRUE(QTest::qWaitForWindowActive(settings()));
+}
+
+TEST_F(AppDelegateTest, ASecondOpening_ShowsTheSameWindow) {
+  start();
+  delegate->openSettings();
+  const SettingsView *first = settings();
+  delegate->openSettings();
+  EXPECT_EQ(settings(), first);
+  settings()->close();
+  delegate->openSettings();
+  EXPECT_EQ(settings(), first);
+  EXPECT_TRUE(settings()->isVisible());
+}
+
+TEST_F(AppDelegateTest, BeforeTheStart_TheSettingsCanBeOpenedAllTheSame) {
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
+  delegate->openSettings();
+  ASSERT_NE(settings(), nullptr);
+  EXPECT_TRUE(settings()->isVisible());
 }
 
 TEST_F(AppDelegateTest, APlainComma_IsTyped) {

@@ -48,4 +48,15 @@ QString configHome() {
   return baseDirectory("XDG_CONFIG_HOME", u"/.config"_s);
 }
 
+QStringList configDirectories() {
+  QStringList directories;
+  const QList<QByteArray> chosen = qgetenv("XDG_CONFIG_DIRS").split(':');
+  for (const QByteArray &directory : chosen) {
+    if (directory.startsWith('/')) {
+      directories.append(QFile::decodeName(directory));
+    }
+  }
+  return directories.isEmpty() ? QStringList(u"/etc/xdg"_s) : directories;
+}
+
 }  // namespace lanternix::BaseDirectories

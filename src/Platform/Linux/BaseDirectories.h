@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 /// The user's base directories, as the desktop's base directory specification has them: the
 /// environment's word where it is an absolute path, else the usual place in the home directory.
@@ -12,5 +13,9 @@ QString dataHome();
 
 /// Normally ~/.config.
 QString configHome();
+
+/// Where the system keeps settings for all users, the most important place first. Normally
+/// /etc/xdg.
+QStringList configDirectories();
 
 }  // namespace lanternix::BaseDirectories

@@ -1,17 +1,23 @@
 #include "Platform/Clock.h"
+#include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/BusSingleInstance.h"
+#include "Platform/Linux/DesktopTray.h"
 #include "Platform/Linux/GioWorkspace.h"
 #include "Platform/Linux/LockFileSingleInstance.h"
 #include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/PosixFileManager.h"
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Platform/Linux/SessionBusAddress.h"
+#include "Platform/Linux/SignalTerminationMonitor.h"
 #include "Platform/Linux/SpawnProcessLauncher.h"
+#include "Platform/Linux/StatusNotifierHost.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
+#include "Platform/Linux/X11SelectionWatch.h"
 #include "Platform/Linux/X11Server.h"
 #include "Platform/Linux/X11WindowSystem.h"
 #include "Platform/Linux/XInputMouseMonitor.h"
+#include "Platform/LoginItem.h"
 #include "Platform/Platform.h"
 #include "Platform/UserDefaults.h"
 
@@ -22,8 +28,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+bool hasSessionBus() {
+  return isSessionBusAnnounced() && QDBusConnection::sessionBus().isConnected();
+}
+
 std::unique_ptr<SystemAppearance> makeSystemAppearance() {
-  if (isSessionBusAnnounced() && QDBusConnection::sessionBus().isConnected()) {
+  if (hasSessionBus()) {
     return std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());
   }
   return std::make_unique<NullSystemAppearance>();
@@ -37,16 +47,30 @@ class LinuxPlatform : public Platform {
             m_workspace,   m_processLauncher,        m_clock};
   }
   SystemAppearance &systemAppearance() override { return *m_systemAppearance; }
+  LoginItem &loginItem() override { return m_loginItem; }
+  SystemTray &systemTray() override {
+    if (!m_systemTray) {
+      auto host = hasSessionBus()
+                      ? std::make_unique<StatusNotifierHost>(QDBusConnection::sessionBus())
+                      : nullptr;
+      m_systemTray = std::make_unique<DesktopTray>(std::move(host), makeTrayEmbedder());
+    }
+    return *m_systemTray;
+  }
 
  protected:
   virtual HotkeyRegistrar &hotkeyRegistrar() = 0;
+  /// The watch for a tray that embeds windows; null where there can be none.
+  virtual std::unique_ptr<X11SelectionWatch> makeTrayEmbedder() const { return nullptr; }
 
  private:
   PosixFileManager m_fileManager;
   GioWorkspace m_workspace;
   SpawnProcessLauncher m_processLauncher;
   SystemClock m_clock;
+  AutostartLoginItem m_loginItem{m_fileManager, QCoreApplication::applicationFilePath()};
   const std::unique_ptr<SystemAppearance> m_systemAppearance = makeSystemAppearance();
+  std::unique_ptr<SystemTray> m_systemTray;
 };
 
 class X11Platform : public LinuxPlatform {
@@ -56,6 +80,9 @@ class X11Platform : public LinuxPlatform {
 
  protected:
   HotkeyRegistrar &hotkeyRegistrar() override { return m_hotkeyRegistrar; }
+  std::unique_ptr<X11SelectionWatch> makeTrayEmbedder() const override {
+    return std::make_unique<X11SelectionWatch>(m_server, "_NET_SYSTEM_TRAY_S");
+  }
 
  private:
   X11Server m_server;
@@ -94,6 +121,10 @@ std::unique_ptr<SingleInstance> makeSingleInstance() {
     return std::make_unique<BusSingleInstance>();
   }
   return std::make_unique<LockFileSingleInstance>();
+}
+
+std::unique_ptr<TerminationMonitor> makeTerminationMonitor() {
+  return std::make_unique<SignalTerminationMonitor>();
 }
 
 }  // namespace lanternix

@@ -52,23 +52,49 @@ int openPipe(const QByteArray &path) {
   return descriptor;
 }
 
+/// Whether \p path still leads to what is open, rather than to nothing or to a new pipe.
+bool isAt(const QByteArray &path, int descriptor) {
+  struct stat ofPath {};
+  struct stat opened {};
+  return stat(path.constData(), &ofPath) == 0 && fstat(descriptor, &opened) == 0 &&
+         ofPath.st_ino == opened.st_ino && ofPath.st_dev == opened.st_dev;
+}
+
 }  // namespace
 
 LockFileSingleInstance::~LockFileSingleInstance() {
+  // Taken away under the lock, so that nobody locks a pipe that is not there any more and takes
+  // himself for the one program.
+  if (m_isLocked) {
+    unlink(m_path.constData());
+  }
   if (m_descriptor >= 0) {
     close(m_descriptor);
   }
 }
 
+bool LockFileSingleInstance::lock() {
+  for (;;) {
+    m_descriptor = openPipe(m_path);
+    if (m_descriptor < 0 || flock(m_descriptor, LOCK_EX | LOCK_NB) != 0) {
+      return false;
+    }
+    if (isAt(m_path, m_descriptor)) {
+      return true;
+    }
+    close(m_descriptor);  // its holder has ended since it was opened
+  }
+}
+
 bool LockFileSingleInstance::claim() {
-  const QString path = lockDirectory() + "/lanternix.lock"_L1;
-  m_descriptor = openPipe(QFile::encodeName(path));
+  m_path = QFile::encodeName(lockDirectory() + "/lanternix.lock"_L1);
+  m_isLocked = lock();
   if (m_descriptor < 0) {
     qCWarning(instanceLog).noquote()
-        << "A second start will not find this one:" << path << "-" << std::strerror(errno);
+        << "A second start will not find this one:" << m_path << "-" << std::strerror(errno);
     return true;  // rather twice than not at all
   }
-  if (flock(m_descriptor, LOCK_EX | LOCK_NB) == 0) {
+  if (m_isLocked) {
     listen();
     return true;
   }

@@ -2,12 +2,14 @@
 
 #include "Platform/SingleInstance.h"
 
+#include <QtCore/QByteArray>
+
 namespace lanternix {
 
 /// One program per user where there is no bus. A named pipe, "lanternix.lock" in the runtime
 /// directory, serves twice: whoever holds the lock on it is the one program, and whoever does not
 /// get the lock rings by writing to it. The system gives the lock up when its holder ends, however
-/// it ends.
+/// it ends; a holder that ends well takes the pipe away too.
 class LockFileSingleInstance : public SingleInstance {
   Q_OBJECT
 
@@ -18,10 +20,14 @@ class LockFileSingleInstance : public SingleInstance {
   bool claim() override;
 
  private:
+  /// Opens the pipe and locks it. False when another program has the lock; the pipe is open then.
+  bool lock();
   void listen();
   void answer();
 
+  QByteArray m_path;
   int m_descriptor = -1;
+  bool m_isLocked = false;
 };
 
 }  // namespace lanternix

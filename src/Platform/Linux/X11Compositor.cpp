@@ -2,29 +2,18 @@
 
 #include "Platform/RoundedRegion.h"
 
-#include <QtCore/QCoreApplication>
-
 #include <algorithm>
-#include <string>
+#include <string_view>
 #include <xcb/shape.h>
-#include <xcb/xfixes.h>
 
 namespace lanternix {
 namespace {
 
 constexpr quint8 bitsPerItem = 32;
-constexpr quint32 selectionMask = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
-                                  XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
-                                  XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
 
 bool hasExtension(const X11Server &server, xcb_extension_t &extension) {
   const auto *data = xcb_get_extension_data(server.connection(), &extension);
   return data != nullptr && data->present != 0;
-}
-
-qsizetype screenNumber(const X11Server &server) {
-  const auto root = std::ranges::find(server.roots(), server.root());
-  return root - server.roots().begin();
 }
 
 /// A frame's outline as rectangles: left, top, width, height of each.
@@ -41,56 +30,19 @@ std::vector<quint32> outline(const WindowSystem::Frame &frame) {
 
 }  // namespace
 
-X11Compositor::X11Compositor(const X11Server &server) : m_server(server) {
-  const std::array names{"_NET_WM_CM_S" + std::to_string(screenNumber(server)),
-                         std::string("_GTK_FRAME_EXTENTS"),
-                         std::string("_KDE_NET_WM_BLUR_BEHIND_REGION")};
+X11Compositor::X11Compositor(const X11Server &server)
+    : m_server(server), m_selection(server, "_NET_WM_CM_S") {
+  constexpr std::array<std::string_view, nameCount> names{"_GTK_FRAME_EXTENTS",
+                                                          "_KDE_NET_WM_BLUR_BEHIND_REGION"};
   std::array<xcb_intern_atom_cookie_t, nameCount> cookies{};
-  std::ranges::transform(names, cookies.begin(), [&](const std::string &name) {
+  std::ranges::transform(names, cookies.begin(), [&](std::string_view name) {
     return xcb_intern_atom(server.connection(), 0, static_cast<quint16>(name.size()), name.data());
   });
   std::ranges::transform(cookies, m_atoms.begin(), [&](xcb_intern_atom_cookie_t cookie) {
     const auto reply = awaitReply(xcb_intern_atom_reply, server, cookie);
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
   });
-  watch();
-  const auto owner = awaitReply(xcb_get_selection_owner_reply, server,
-                                xcb_get_selection_owner(server.connection(), m_atoms[selection]));
-  m_isRunning = owner && owner->owner != XCB_WINDOW_NONE;
-  QCoreApplication::instance()->installNativeEventFilter(this);
-}
-
-X11Compositor::~X11Compositor() = default;
-
-/// A compositor owns a selection; the server tells when that changes hands.
-void X11Compositor::watch() {
-  if (!hasExtension(m_server, xcb_xfixes_id)) {
-    return;
-  }
-  xcb_connection_t *connection = m_server.connection();
-  m_firstEvent = xcb_get_extension_data(connection, &xcb_xfixes_id)->first_event;
-  xcb_xfixes_select_selection_input(connection, m_server.root(), m_atoms[selection], selectionMask);
-}
-
-bool X11Compositor::nativeEventFilter(const QByteArray & /*eventType*/, void *message,
-                                      qintptr * /*result*/) {
-  const auto &event = *static_cast<const xcb_generic_event_t *>(message);
-  constexpr int sentFlag = 0x80;
-  if (m_firstEvent != 0 &&
-      (event.response_type & ~sentFlag) == m_firstEvent + XCB_XFIXES_SELECTION_NOTIFY) {
-    const auto &notice = reinterpret_cast<const xcb_xfixes_selection_notify_event_t &>(event);
-    if (notice.selection == m_atoms[selection] && notice.window == m_server.root()) {
-      update(notice.owner != XCB_WINDOW_NONE);
-    }
-  }
-  return false;
-}
-
-void X11Compositor::update(bool isRunning) {
-  if (isRunning != m_isRunning) {
-    m_isRunning = isRunning;
-    Q_EMIT changed();
-  }
+  connect(&m_selection, &X11SelectionWatch::changed, this, &X11Compositor::changed);
 }
 
 void X11Compositor::setFrame(xcb_window_t window, const WindowSystem::Frame &frame) {

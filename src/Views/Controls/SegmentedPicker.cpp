@@ -9,6 +9,8 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QRadioButton>
 
+#include <algorithm>
+
 namespace lanternix {
 
 namespace {
@@ -68,9 +70,18 @@ SegmentedPicker::SegmentedPicker(const QString &name, const QStringList &texts, 
   }
   connect(m_buttons, &QButtonGroup::idToggled, this, [this](int id, bool checked) {
     if (checked) {
+      letTabStopAt(id);
       Q_EMIT currentIndexChanged(id);
     }
   });
+}
+
+/// Only there; within the choice the arrows do the rest.
+void SegmentedPicker::letTabStopAt(int index) {
+  const QList<QAbstractButton *> segments = m_buttons->buttons();
+  for (QAbstractButton *segment : segments) {
+    segment->setFocusPolicy(m_buttons->id(segment) == index ? Qt::StrongFocus : Qt::ClickFocus);
+  }
 }
 
 int SegmentedPicker::currentIndex() const {
@@ -82,6 +93,17 @@ void SegmentedPicker::setCurrentIndex(int index) {
     const QSignalBlocker blocker(this);
     button->setChecked(true);
   }
+}
+
+QSize SegmentedPicker::minimumSizeHint() const {
+  constexpr int sidePadding = 6;
+  int widest = 0;
+  const QList<QAbstractButton *> segments = m_buttons->buttons();
+  for (const QAbstractButton *segment : segments) {
+    widest = std::max(widest, fontMetrics().horizontalAdvance(segment->text()));
+  }
+  const auto count = static_cast<int>(segments.size());
+  return {count * (widest + 2 * sidePadding), QWidget::minimumSizeHint().height()};
 }
 
 void SegmentedPicker::paintEvent(QPaintEvent * /*event*/) {

@@ -21,6 +21,9 @@ class SegmentedPicker : public QWidget {
   /// Says nothing by currentIndexChanged().
   void setCurrentIndex(int index);
 
+  /// Has room for every text.
+  QSize minimumSizeHint() const override;
+
  Q_SIGNALS:
   /// The user has chosen another one.
   void currentIndexChanged(int index);
@@ -29,6 +32,8 @@ class SegmentedPicker : public QWidget {
   void paintEvent(QPaintEvent *event) override;
 
  private:
+  void letTabStopAt(int index);
+
   QButtonGroup *m_buttons;
 };
 

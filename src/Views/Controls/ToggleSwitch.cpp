@@ -56,6 +56,13 @@ void ToggleSwitch::nextCheckState() {
   }
 }
 
+// A switch that is set while it still slides, as one is that cannot be turned, is where it is set.
+void ToggleSwitch::checkStateSet() {
+  if (m_slide->endValue().toBool() != isChecked()) {
+    m_slide->stop();
+  }
+}
+
 void ToggleSwitch::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);

@@ -19,6 +19,7 @@ class ToggleSwitch : public QAbstractButton {
  protected:
   void paintEvent(QPaintEvent *event) override;
   void nextCheckState() override;
+  void checkStateSet() override;
 
  private:
   /// Where the knob is, 0 (off) to 1 (on).

@@ -30,6 +30,8 @@ QSize SymbolButton::sizeHint() const {
 void SymbolButton::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
+  constexpr double disabledOpacity = 0.5;
+  painter.setOpacity(isEnabled() ? 1 : disabledOpacity);
   const FillStyle fill = isDown() ? FillStyle::primary : m_fill;
   Symbol::draw(painter, rect(), m_symbol, side(), fillColor(fill, palette()));
   if (hasFocus()) {

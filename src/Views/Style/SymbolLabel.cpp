@@ -13,6 +13,12 @@ SymbolLabel::SymbolLabel(QString symbol, Size size, Tint tint, QWidget *parent)
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
+void SymbolLabel::setSymbol(const QString &symbol, const Tint &tint) {
+  m_symbol = symbol;
+  m_tint = tint;
+  update();
+}
+
 double SymbolLabel::side() const {
   const auto *style = std::get_if<TextStyle>(&m_size);
   return style != nullptr ? Symbol::sideFor(textFont(*style)) : std::get<double>(m_size);

@@ -24,6 +24,8 @@ class SymbolLabel : public QWidget {
 
   SymbolLabel(QString symbol, Size size, Tint tint, QWidget *parent = nullptr);
 
+  void setSymbol(const QString &symbol, const Tint &tint);
+
   QSize sizeHint() const override;
 
  protected:

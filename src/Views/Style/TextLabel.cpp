@@ -1,7 +1,10 @@
 #include "Views/Style/TextLabel.h"
 
+#include "Views/Style/DisplayText.h"
+
 #include <QtCore/QEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QTextLayout>
 
 namespace lanternix {
 
@@ -45,11 +48,48 @@ void TextLabel::changeEvent(QEvent *event) {
   QLabel::changeEvent(event);
 }
 
+// Lines are broken between words, and within one only where it is wider than the label.
+double TextLabel::layOut(QTextLayout &lines, double width) const {
+  QTextOption option(alignment());
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  lines.setTextOption(option);
+  double height = 0;
+  lines.beginLayout();
+  for (QTextLine line = lines.createLine(); line.isValid(); line = lines.createLine()) {
+    line.setLineWidth(width);
+    line.setPosition({0, height});
+    height += line.height();
+  }
+  lines.endLayout();
+  return height;
+}
+
+int TextLabel::heightForWidth(int width) const {
+  if (!wordWrap()) {
+    return QLabel::heightForWidth(width);
+  }
+  const QMargins margins = contentsMargins();
+  QTextLayout lines(text(), font());
+  return qCeil(layOut(lines, width - margins.left() - margins.right())) + margins.top() +
+         margins.bottom();
+}
+
+QSize TextLabel::minimumSizeHint() const {
+  // A text that may be broken anywhere asks for no width.
+  return wordWrap() ? QSize(0, fontMetrics().height()) : QLabel::minimumSizeHint();
+}
+
 void TextLabel::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
   painter.setPen(fillColor(m_fill, palette()));
+  if (wordWrap()) {
+    QTextLayout lines(text(), font());
+    layOut(lines, contentsRect().width());
+    lines.draw(&painter, contentsRect().topLeft());
+    return;
+  }
   painter.drawText(contentsRect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
-                   fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()));
+                   DisplayText::elided(text(), font(), Qt::ElideRight, contentsRect().width()));
 }
 
 }  // namespace lanternix

@@ -1,0 +1,131 @@
+#include "Views/Settings/GroupDetailView.h"
+
+#include "App/AppState.h"
+#include "Views/Settings/GroupListModel.h"
+#include "Views/Settings/ItemListModel.h"
+#include "Views/Settings/ItemListView.h"
+#include "Views/Settings/ListPlaceholder.h"
+#include "Views/Style/DisplayText.h"
+#include "Views/Style/DividerLine.h"
+#include "Views/Style/Symbol.h"
+#include "Views/Style/SymbolLabel.h"
+#include "Views/Style/SystemColors.h"
+#include "Views/Style/TextLabel.h"
+
+#include <QtCore/QEvent>
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+namespace {
+
+constexpr int headerSidePadding = 20;
+constexpr int headerPadding = 14;
+constexpr int headerSpacing = 10;
+constexpr int lineSpacing = 2;
+/// More than any window shows of a name.
+constexpr int widestName = 4000;
+
+TextLabel *makeLine(TextStyle style, FillStyle fill, QWidget *parent) {
+  auto *label = new TextLabel({}, style, QFont::Normal, fill, parent);
+  // As long as there is room, whatever is written on it.
+  label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  return label;
+}
+
+}  // namespace
+
+GroupDetailView::GroupDetailView(AppState &appState, QWidget *parent)
+    : QWidget(parent),
+      m_appState(appState),
+      m_model(new ItemListModel(appState, this)),
+      m_list(new ItemListView(*m_model, this)),
+      m_pages(new QStackedWidget(this)),
+      m_icon(new SymbolLabel({}, TextStyle::title2, &accentColor, this)),
+      m_name(makeLine(TextStyle::body, FillStyle::primary, this)),
+      m_count(makeLine(TextStyle::caption, FillStyle::secondary, this)),
+      m_add(new QPushButton(u"Add Item"_s, this)) {
+  m_pages->addWidget(m_list);
+  m_pages->addWidget(new ListPlaceholder({.symbol = u"tray"_s,
+                                          .symbolSide = 36,
+                                          .title = u"No items in this group"_s,
+                                          .titleStyle = TextStyle::title3,
+                                          .hint = u"Add directories, files, or links"_s,
+                                          .hintStyle = TextStyle::subheadline},
+                                         m_pages));
+  auto *layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(makeHeader());
+  layout->addWidget(new DividerLine(this));
+  layout->addWidget(m_pages, 1);
+  setTabOrder(m_add, m_list);
+
+  connect(m_add, &QAbstractButton::clicked, this, &GroupDetailView::itemRequested);
+  // The model was made before, so that it has heard of a change already.
+  connect(&appState, &AppState::groupsChanged, this, &GroupDetailView::showState);
+  connect(&appState, &AppState::itemsChanged, this, &GroupDetailView::showState);
+  connect(&appState, &AppState::searchQueryChanged, this, &GroupDetailView::showState);
+  updateButton();
+}
+
+QWidget *GroupDetailView::makeHeader() {
+  auto *header = new QWidget(this);
+  auto *texts = new QVBoxLayout;
+  texts->setSpacing(lineSpacing);
+  texts->addWidget(m_name);
+  texts->addWidget(m_count);
+  m_add->setDefault(true);
+  auto *layout = new QHBoxLayout(header);
+  layout->setContentsMargins(headerSidePadding, headerPadding, headerSidePadding, headerPadding);
+  layout->setSpacing(headerSpacing);
+  layout->addWidget(m_icon);
+  layout->addLayout(texts, 1);
+  layout->addWidget(m_add);
+  return header;
+}
+
+void GroupDetailView::updateButton() {
+  const QFont font = textFont(TextStyle::subheadline);
+  const int side = qRound(Symbol::sideFor(font));
+  m_add->setFont(font);
+  m_add->setIconSize({side, side});
+  // The button gives it the colour of its text.
+  m_add->setIcon(QPixmap::fromImage(
+      Symbol::image(u"plus"_s, side, palette().color(QPalette::ButtonText), devicePixelRatioF())));
+}
+
+void GroupDetailView::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) {
+    updateButton();
+  }
+  QWidget::changeEvent(event);
+}
+
+void GroupDetailView::setGroupId(const std::optional<QUuid> &id) {
+  m_list->setSelectedId({});
+  m_model->setGroupId(id);
+  m_list->scrollToTop();
+  showState();
+}
+
+void GroupDetailView::showState() {
+  const std::optional<QUuid> &id = m_model->groupId();
+  const PathGroup *group = id.has_value() ? m_appState.groupWithId(*id) : nullptr;
+  if (group == nullptr) {
+    return;  // and out of sight
+  }
+  m_icon->setSymbol(group->iconName, [color = group->color()](const QPalette &palette) {
+    return systemColor(color, palette);
+  });
+  m_name->setText(DisplayText::elided(group->name, m_name->font(), Qt::ElideRight, widestName));
+  m_count->setText(GroupListModel::countText(m_model->rowCount()));
+  m_pages->setCurrentIndex(m_model->rowCount() == 0 ? 1 : 0);
+}
+
+}  // namespace lanternix

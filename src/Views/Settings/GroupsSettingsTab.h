@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QtCore/QUuid>
+#include <QtWidgets/QWidget>
+
+#include <optional>
+
+class QStackedWidget;
+
+namespace lanternix {
+
+class AppState;
+class GroupDetailView;
+class GroupSidebarView;
+
+/// The page of the settings where groups and their items are made, edited, deleted and put in
+/// order: the groups at the left, the items of the selected one at the right.
+class GroupsSettingsTab : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit GroupsSettingsTab(AppState &appState, QWidget *parent = nullptr);
+
+  /// None also when the group that was selected no longer exists.
+  const std::optional<QUuid> &selectedGroupId() const;
+  const std::optional<QUuid> &selectedItemId() const;
+
+ private:
+  void connectSidebar();
+  void connectDetail();
+  void showSelectedGroup();
+
+  void addGroup();
+  void editGroup(const QUuid &id);
+  void askToDeleteGroup(const QUuid &id);
+  void deleteGroup(const QUuid &id);
+  void showGroupMenu(const QUuid &id, const QPoint &position);
+
+  void addItem();
+  void editItem(const QUuid &id);
+  void askToDeleteItem(const QUuid &id);
+  void deleteItem(const QUuid &id);
+  void showItemMenu(const QUuid &id, const QPoint &position);
+
+  AppState &m_appState;
+  GroupSidebarView *m_sidebar;
+  QStackedWidget *m_pages;
+  GroupDetailView *m_detail;
+};
+
+}  // namespace lanternix

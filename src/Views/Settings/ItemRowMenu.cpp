@@ -1,0 +1,82 @@
+#include "Views/Settings/ItemRowMenu.h"
+
+#include "App/AppState.h"
+#include "Views/Style/AccentFill.h"
+#include "Views/Style/DisplayText.h"
+#include "Views/Style/Symbol.h"
+#include "Views/Style/SystemColors.h"
+
+#include <algorithm>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace lanternix {
+
+namespace {
+
+constexpr double widestName = 300;
+
+/// A name as an entry: a single "&" would underline what follows, a tab begin a shortcut.
+QString entryText(const QString &name, const QFont &font) {
+  return DisplayText::elided(name, font, Qt::ElideMiddle, widestName).replace(u'&', u"&&"_s);
+}
+
+/// The group's symbol in its colour, on the entry under the pointer in that of the text.
+QIcon iconOf(const PathGroup &group, const QWidget &menu) {
+  const QPalette &palette = menu.palette();
+  const auto picture = [&](const QColor &color) {
+    return QPixmap::fromImage(Symbol::image(group.iconName, Symbol::sideFor(menu.font()), color,
+                                            menu.devicePixelRatioF()));
+  };
+  QIcon icon(picture(systemColor(group.color(), palette)));
+  icon.addPixmap(picture(AccentFill::of(palette).text), QIcon::Selected);
+  return icon;
+}
+
+}  // namespace
+
+ItemRowMenu::ItemRowMenu(AppState &appState, const PathItem &item, QWidget *parent)
+    : QMenu(parent), m_appState(appState) {
+  setAttribute(Qt::WA_DeleteOnClose);
+  const QUuid id = item.id;
+  addAction(u"Edit Item..."_s, this, [this, id] { Q_EMIT editRequested(id); });
+  addAction(u"Duplicate"_s, this, [this, id] {
+    if (const PathItem *present = m_appState.itemWithId(id)) {
+      m_appState.duplicateItem(PathItem(*present));
+    }
+  });
+  if (item.type == ItemType::directory || item.type == ItemType::file) {
+    addAction(u"Reveal in Finder"_s, this, [this, id] {
+      if (const PathItem *present = m_appState.itemWithId(id)) {
+        m_appState.launcherService().revealInFinder(PathItem(*present));
+      }
+    });
+  }
+  addGroups(item);
+  addSeparator();
+  QAction *remove = addAction(u"Delete Item"_s, this, [this, id] { Q_EMIT deletionRequested(id); });
+  remove->setProperty("destructive", true);
+}
+
+void ItemRowMenu::addGroups(const PathItem &item) {
+  std::vector<const PathGroup *> others;
+  for (const PathGroup &group : m_appState.groups()) {
+    if (group.id != item.groupId) {
+      others.push_back(&group);
+    }
+  }
+  if (others.empty()) {
+    return;
+  }
+  std::ranges::stable_sort(others, {}, &PathGroup::order);
+  QMenu *menu = addMenu(u"Move to Group"_s);
+  for (const PathGroup *group : others) {
+    QAction *action = menu->addAction(
+        entryText(group->name, font()), this,
+        [this, itemId = item.id, groupId = group->id] { m_appState.moveItem(itemId, groupId); });
+    action->setIcon(iconOf(*group, *this));
+  }
+}
+
+}  // namespace lanternix

@@ -28,6 +28,8 @@ struct WholeProgramFigures {
   Series letterToSettled;
   Series escapeToUnmapped;
   Series wheelStepToSettled;
+  /// At the first opening, when the window is made.
+  Series openingToSettledSettings;
   Series longestGapWhileUnfolding;
   Series processorTimePerFrame;
   qint64 proportionalSetSizeKilobytes = 0;
@@ -44,6 +46,8 @@ class PressToPicture {
   explicit PressToPicture(const Effort &effort) : m_effort(effort) {}
 
   WholeProgramFigures measureProgram(const QByteArray &dataFile);
+  /// Only the first opening of the settings.
+  WholeProgramFigures measureSettings(const QByteArray &dataFile);
   WholeProgramFigures measureBareClient();
   /// Only what concerns folding. The first group of \p dataFile is measured, folded at the start.
   WholeProgramFigures measureFolding(const QByteArray &dataFile);

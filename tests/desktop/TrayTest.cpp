@@ -112,6 +112,28 @@ TEST_F(TrayTest, ShowPanel_ShowsItWithTheKeyboard) {
   EXPECT_TRUE(becomesMarked(u"Deploy"_s));
 }
 
+TEST_F(TrayTest, Settings_OpensThemWithTheKeyboard) {
+  startInTray();
+  const auto other = session().openOtherWindow();
+  tray->choose(u"Settings..."_s);
+  EXPECT_TRUE(waitUntil([this] {
+    const auto settings = session().windows().find(u"lanternix"_s, u"Lanternix Settings"_s);
+    return settings && session().windows().isViewable(*settings) &&
+           session().windows().hasFocus(*settings);
+  }));
+}
+
+TEST_F(TrayTest, QuitLanternix_OverTheSettings_EndsTheProgramWithoutAQuestion) {
+  startInTray();
+  tray->choose(u"Settings..."_s);
+  require(u"the settings"_s, [this] {
+    const auto settings = session().windows().find(u"lanternix"_s, u"Lanternix Settings"_s);
+    return settings && session().windows().isViewable(*settings);
+  });
+  tray->choose(u"Quit Lanternix"_s);
+  EXPECT_TRUE(waitUntil([this] { return program().exitCode() == 0; }));
+}
+
 TEST_F(TrayTest, QuitLanternix_EndsTheProgramAtOnce) {
   startInTray();
   tray->choose(u"Quit Lanternix"_s);

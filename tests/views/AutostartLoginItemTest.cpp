@@ -1,6 +1,7 @@
 #include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/PosixFileManager.h"
 #include "support/TemporaryHome.h"
+#include "support/TemporaryVariable.h"
 
 #include <QtCore/QDir>
 
@@ -15,20 +16,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using Status = LoginItem::Status;
-
-/// A variable of the environment that has its old value again afterwards.
-class Variable {
- public:
-  Variable(const char *name, const QByteArray &value) : m_name(name), m_previous(qgetenv(name)) {
-    qputenv(name, value);
-  }
-  ~Variable() { qputenv(m_name, m_previous); }
-  Q_DISABLE_COPY_MOVE(Variable)
-
- private:
-  const char *m_name;
-  QByteArray m_previous;
-};
 
 class AutostartLoginItemTest : public testing::Test {
  protected:
@@ -55,9 +42,10 @@ class AutostartLoginItemTest : public testing::Test {
   QString program = home.root() + u"/opt/bin/lanternix"_s;
   QString userEntry = home.configHome() + u"/autostart/org.lanternix.Lanternix.desktop"_s;
   QString systemEntry = home.root() + u"/xdg/autostart/org.lanternix.Lanternix.desktop"_s;
-  Variable systemDirectories{"XDG_CONFIG_DIRS", QFile::encodeName(home.root() + u"/xdg"_s)};
-  Variable searchPath{"PATH", QFile::encodeName(home.root() + u"/bin"_s)};
-  Variable desktop{"XDG_CURRENT_DESKTOP", "ubuntu:GNOME"};
+  TemporaryVariable systemDirectories{"XDG_CONFIG_DIRS",
+                                      QFile::encodeName(home.root() + u"/xdg"_s)};
+  TemporaryVariable searchPath{"PATH", QFile::encodeName(home.root() + u"/bin"_s)};
+  TemporaryVariable desktop{"XDG_CURRENT_DESKTOP", "ubuntu:GNOME"};
   AutostartLoginItem item{fileManager, program};
 };
 
@@ -250,7 +238,8 @@ TEST_F(AutostartLoginItemTest, Unregister_MasksASystemWideEntry) {
 
 TEST_F(AutostartLoginItemTest, WithoutAHome_RegisteringSaysWhy) {
   TemporaryHome::write(home.root() + u"/file"_s, "");
-  const Variable nowhere("XDG_CONFIG_HOME", QFile::encodeName(home.root() + u"/file/config"_s));
+  const TemporaryVariable nowhere("XDG_CONFIG_HOME",
+                                  QFile::encodeName(home.root() + u"/file/config"_s));
   const auto error = item.registerItem();
   ASSERT_TRUE(error.has_value());
   EXPECT_EQ(*error, home.root() + u"/file/config/autostart: Not a directory"_s);

@@ -52,7 +52,7 @@ SettingsStage::SettingsStage(const QString &scene) {
 
 void SettingsStage::writeBackups() const {
   for (const QString &day : {u"2026-03-03"_s, u"2026-03-04"_s, u"2026-03-06"_s}) {
-    TemporaryHome::write(m_store.home.backupDirectory() + u"/backup-"_s + day + u".json"_s,
+    TemporaryHome::write(m_store.home.backupDirectory() + u"/backup-"_s + day + u"_09-05-41.json"_s,
                          *TemporaryHome::read(m_store.home.dataFile()));
   }
 }

@@ -1,6 +1,7 @@
 // Draws every picture at scale 1 and at scale 2 into the directory that is named.
 #include "Views/Style/LanternixStyle.h"
 #include "gallery/PanelGallery.h"
+#include "gallery/SettingsGallery.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
@@ -51,7 +52,7 @@ int main(int argc, char **argv) {
   const QString directory = QCoreApplication::arguments().at(1);
   QDir().mkpath(directory);
   try {
-    const int count = PanelGallery(directory).draw();
+    const int count = PanelGallery(directory).draw() + SettingsGallery(directory).draw();
     QTextStream(stdout) << count << " pictures in " << directory << Qt::endl;
   } catch (const std::exception &error) {
     QTextStream(stderr) << error.what() << Qt::endl;

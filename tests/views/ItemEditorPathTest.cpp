@@ -1,3 +1,4 @@
+#include "Views/Style/AccentFill.h"
 #include "views/ItemEditorViewTest.h"
 
 #include <QtGui/QClipboard>
@@ -21,6 +22,20 @@ TEST_F(ItemEditorPathTest, WithoutAPreselectedGroup_OneHasToBeChosen) {
   EXPECT_TRUE(button(*editor, u"Add Item"_s)->isEnabled());
   button(*editor, u"Add Item"_s)->click();
   EXPECT_EQ(state->items().first().groupId, play.id);
+}
+
+TEST_F(ItemEditorPathTest, ALongStoredPath_IsShownFromItsBeginning) {
+  PathItem item = typed(ItemType::file);
+  item.path = u"/tmp"_s + u"/directory"_s.repeated(40);
+  QLineEdit *path = field(*openEditing(item), u"Path"_s);
+  EXPECT_EQ(path->cursorPositionAt(QPoint(0, path->height() / 2)), 0);
+}
+
+TEST_F(ItemEditorPathTest, SelectedText_IsDrawnAsOnEveryAccentGround) {
+  const QLineEdit *name = field(*openNew(), u"Name"_s);
+  const AccentFill fill = AccentFill::of(QApplication::palette());
+  EXPECT_EQ(name->palette().color(QPalette::HighlightedText), fill.text);
+  EXPECT_EQ(name->palette().color(QPalette::Highlight), fill.ground);
 }
 
 TEST_F(ItemEditorPathTest, BrowsingForADirectory_AsksForDirectoriesOnlyFromThePresentPath) {

@@ -17,6 +17,7 @@ namespace {
 
 constexpr double radius = 6;
 constexpr int inset = 2;
+constexpr int margin = 3;  // as much as the ring of the controls above and below takes
 constexpr int linePadding = 4;
 
 /// One of the choices. A radio button, so that keys and screen readers take it for what it is.
@@ -60,7 +61,7 @@ SegmentedPicker::SegmentedPicker(const QString &name, const QStringList &texts, 
     : QWidget(parent), m_buttons(new QButtonGroup(this)) {
   setAccessibleName(name);
   auto *layout = new QHBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setContentsMargins(margin, margin, margin, margin);
   layout->setSpacing(0);
   for (const QString &text : texts) {
     auto *segment = new Segment(text, this);
@@ -103,7 +104,7 @@ QSize SegmentedPicker::minimumSizeHint() const {
     widest = std::max(widest, fontMetrics().horizontalAdvance(segment->text()));
   }
   const auto count = static_cast<int>(segments.size());
-  return {count * (widest + 2 * sidePadding), QWidget::minimumSizeHint().height()};
+  return {count * (widest + 2 * sidePadding) + 2 * margin, QWidget::minimumSizeHint().height()};
 }
 
 void SegmentedPicker::paintEvent(QPaintEvent * /*event*/) {
@@ -111,7 +112,7 @@ void SegmentedPicker::paintEvent(QPaintEvent * /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(fillColor(FillStyle::quaternary, palette()));
-  painter.drawRoundedRect(rect(), radius, radius);
+  painter.drawRoundedRect(rect().adjusted(margin, margin, -margin, -margin), radius, radius);
 }
 
 }  // namespace lanternix

@@ -1,7 +1,11 @@
 #include "Views/Controls/TextField.h"
 
+#include "Views/Style/AccentFill.h"
+
+#include <QtCore/QEvent>
 #include <QtGui/QFontDatabase>
 #include <QtGui/QValidator>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
 #include <limits>
@@ -44,6 +48,28 @@ TextField::TextField(const QString &name, QWidget *parent)
   // The usual limit would cut what is stored already.
   setMaxLength(std::numeric_limits<int>::max());
   setValidator(m_singleLine);
+  updateSelectionColors();
+}
+
+bool TextField::event(QEvent *event) {
+  const bool isHandled = QLineEdit::event(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) {
+    updateSelectionColors();
+  }
+  return isHandled;
+}
+
+void TextField::updateSelectionColors() {
+  // Of the application, for the field's own palette holds what this sets.
+  const AccentFill selection = AccentFill::of(QApplication::palette());
+  if (palette().color(QPalette::Highlight) == selection.ground &&
+      palette().color(QPalette::HighlightedText) == selection.text) {
+    return;
+  }
+  QPalette colors;
+  colors.setColor(QPalette::Highlight, selection.ground);
+  colors.setColor(QPalette::HighlightedText, selection.text);
+  setPalette(colors);
 }
 
 void TextField::setStoredText(const QString &text) {

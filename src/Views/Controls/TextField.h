@@ -20,7 +20,12 @@ class TextField : public QLineEdit {
   /// In the desktop's fixed-width font, as large as other text.
   void setMonospaced(bool monospaced);
 
+ protected:
+  bool event(QEvent *event) override;
+
  private:
+  void updateSelectionColors();
+
   QValidator *m_singleLine;
 };
 

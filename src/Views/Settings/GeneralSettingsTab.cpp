@@ -9,6 +9,7 @@
 #include "Views/Settings/ShortcutRecorderView.h"
 
 #include <QtCore/QEvent>
+#include <QtWidgets/QHBoxLayout>
 
 #include <algorithm>
 
@@ -27,6 +28,16 @@ QStringList itemSizeNames() {
     names.append(name);
   }
   return names;
+}
+
+/// \p control, with its edge in line with those of the controls that have room for a ring.
+QWidget *inLine(QWidget *control) {
+  constexpr int ringRoom = 3;
+  auto *place = new QWidget;
+  auto *layout = new QHBoxLayout(place);
+  layout->setContentsMargins(0, 0, ringRoom, 0);
+  layout->addWidget(control);
+  return place;
 }
 
 /// A preference of the store that is on or off.
@@ -63,7 +74,7 @@ GeneralSettingsTab::GeneralSettingsTab(AppState &appState, LoginItem &loginItem,
 void GeneralSettingsTab::addShortcut() {
   addSection(u"Keyboard Shortcut"_s)
       .addRow(u"Toggle Popup Panel"_s, u"Press to show or hide the quick access panel"_s,
-              new ShortcutRecorderView(m_appState.hotkeyService()));
+              inLine(new ShortcutRecorderView(m_appState.hotkeyService())));
 }
 
 void GeneralSettingsTab::addPanelDisplay() {

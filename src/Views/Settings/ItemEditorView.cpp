@@ -87,6 +87,7 @@ ItemEditorView::ItemEditorView(AppState &appState, std::optional<PathItem> editi
   if (m_editingItem) {
     m_name->setStoredText(m_editingItem->name);
     m_path->setStoredText(m_editingItem->path);
+    m_path->home(false);  // a long one is read from its beginning
   } else {
     addTypeRow(section);
   }

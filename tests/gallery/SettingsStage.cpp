@@ -1,0 +1,165 @@
+#include "gallery/SettingsStage.h"
+
+#include "Views/Settings/DataSettingsTab.h"
+#include "Views/Settings/SettingsTabStrip.h"
+#include "gallery/PanelScene.h"
+#include "support/HarnessError.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QContextMenuEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QAbstractButton>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QListView>
+#include <QtWidgets/QMenu>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QScrollArea>
+#include <QtWidgets/QScrollBar>
+
+namespace lanternix {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+void draw(QPainter &painter, QWidget &window, const QPoint &position) {
+  painter.drawPixmap(position, window.grab());
+}
+
+/// A dialog has the window manager's frame around it; a line stands for that.
+void drawDialog(QPainter &painter, QDialog &dialog, const QRect &window) {
+  QRect frame(QPoint(), dialog.size());
+  frame.moveCenter(window.center());
+  painter.fillRect(window, QColor(0, 0, 0, 60));
+  draw(painter, dialog, frame.topLeft());
+  painter.setPen(QColor(0, 0, 0, 120));
+  painter.drawRect(frame.adjusted(-1, -1, 0, 0));
+}
+
+}  // namespace
+
+SettingsStage::SettingsStage(const QString &scene) {
+  const PanelScene content = PanelScene::named(scene, m_store.home.root());
+  m_store.writeData(content.groups, content.items);
+  writeBackups();
+  m_state = m_store.makeState();
+  m_window = std::make_unique<SettingsView>(*m_state, m_loginItem);
+  m_window->move(40, 40);
+  m_window->present();
+  QCoreApplication::processEvents();
+}
+
+void SettingsStage::writeBackups() const {
+  for (const QString &day : {u"2026-03-03"_s, u"2026-03-04"_s, u"2026-03-06"_s}) {
+    TemporaryHome::write(m_store.home.backupDirectory() + u"/backup-"_s + day + u"_09-05-41.json"_s,
+                         *TemporaryHome::read(m_store.home.dataFile()));
+  }
+}
+
+void SettingsStage::showTab(int index) {
+  m_window->findChild<SettingsTabStrip *>()->setCurrentIndex(index);
+  QCoreApplication::processEvents();
+}
+
+QAbstractButton &SettingsStage::button(const QString &name) const {
+  for (auto *each : m_window->findChildren<QAbstractButton *>()) {
+    if (each->isVisible() && (each->accessibleName() == name || each->text() == name)) {
+      return *each;
+    }
+  }
+  throw HarnessError(u"there is no such button: "_s + name);
+}
+
+QListView &SettingsStage::listWith(const QString &name, int &row) const {
+  for (auto *list : m_window->findChildren<QListView *>()) {
+    for (row = 0; list->isVisible() && row < list->model()->rowCount(); ++row) {
+      if (list->model()->index(row, 0).data().toString() == name) {
+        return *list;
+      }
+    }
+  }
+  throw HarnessError(u"there is no such row: "_s + name);
+}
+
+void SettingsStage::select(const QString &name) {
+  int row = 0;
+  QListView &list = listWith(name, row);
+  list.setCurrentIndex(list.model()->index(row, 0));
+  list.setFocus();
+  QCoreApplication::processEvents();
+}
+
+void SettingsStage::openMenu(const QString &name) {
+  int row = 0;
+  QListView &list = listWith(name, row);
+  const QPoint place = list.visualRect(list.model()->index(row, 0)).center();
+  QContextMenuEvent event(QContextMenuEvent::Mouse, place, list.viewport()->mapToGlobal(place));
+  QCoreApplication::sendEvent(list.viewport(), &event);
+  QCoreApplication::processEvents();
+}
+
+void SettingsStage::choose(const QString &entry) {
+  auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+  if (menu == nullptr) {
+    throw HarnessError(u"no menu is open"_s);
+  }
+  for (QAction *action : menu->actions()) {
+    if (action->text() == entry && action->menu() != nullptr) {
+      menu->setActiveAction(action);
+      action->menu()->popup(menu->mapToGlobal(menu->actionGeometry(action).topRight()));
+    } else if (action->text() == entry) {
+      menu->close();
+      action->trigger();
+    }
+  }
+  QCoreApplication::processEvents();
+}
+
+void SettingsStage::click(const QString &name) {
+  button(name).click();
+  QCoreApplication::processEvents();
+}
+
+// The window's own tab would ask the desktop for a file, so a hidden one beside it acts.
+void SettingsStage::exchange(const QString &button) {
+  m_fileChooser.answer = m_store.home.root() + u"/Exported.json"_s;
+  TemporaryHome::write(*m_fileChooser.answer, *TemporaryHome::read(m_store.home.dataFile()));
+  auto *tab = new DataSettingsTab(*m_state, m_window.get(), m_fileChooser);
+  for (auto *each : tab->findChildren<QPushButton *>()) {
+    if (each->text() == button) {
+      each->click();
+    }
+  }
+  QCoreApplication::processEvents();
+}
+
+void SettingsStage::focus(const QString &name) {
+  button(name).setFocus(Qt::TabFocusReason);
+  QCoreApplication::processEvents();
+}
+
+void SettingsStage::scrollToEnd() {
+  for (auto *area : m_window->findChildren<QScrollArea *>()) {
+    area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
+  }
+  QCoreApplication::processEvents();
+}
+
+QPixmap SettingsStage::picture() const {
+  QPixmap result = m_window->grab();
+  QPainter painter(&result);
+  for (auto *dialog : m_window->findChildren<QDialog *>()) {
+    if (dialog->isVisible()) {
+      drawDialog(painter, *dialog, m_window->rect());
+    }
+  }
+  for (auto *menu : m_window->findChildren<QMenu *>()) {
+    if (menu->isVisible()) {
+      draw(painter, *menu, m_window->mapFromGlobal(menu->pos()));
+    }
+  }
+  return result;
+}
+
+}  // namespace lanternix

@@ -93,5 +93,18 @@ TEST_F(SettingsNamesTest, EveryControlOfTheItemEditor_HasAName) {
   EXPECT_EQ(nameless(controls), QStringList()) << controls.join(u'\n').toStdString();
 }
 
+TEST_F(SettingsNamesTest, TheChoicesOfTheItemEditor_AreLabelled) {
+  openTwoItems();
+  select(u"Work"_s);
+  click(button(u"Add Item"_s));
+  const auto editor = dialog(u"New Item"_s);
+  for (const auto &[choice, label] :
+       {std::pair(u"Directory"_s, u"Type"_s), std::pair(u"Work"_s, u"Group"_s)}) {
+    const auto labels = reader.labels(reader.find(editor, u"combo box"_s, choice));
+    ASSERT_EQ(labels.size(), 1) << choice.toStdString();
+    EXPECT_EQ(reader.name(labels.front()), label);
+  }
+}
+
 }  // namespace
 }  // namespace lanternix

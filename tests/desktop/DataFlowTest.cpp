@@ -94,6 +94,18 @@ TEST_F(DataFlowTest, RestoreLeftByEscape_ChangesNothing) {
   EXPECT_EQ(storedGroups(), QStringList());
 }
 
+TEST_F(DataFlowTest, ABackupThatGoesWhileItsQuestionIsOpen_LeavesTheDataAlone) {
+  openData();
+  const auto question = press(u"Restore"_s, u"Restore Backup?"_s);
+  ASSERT_TRUE(QDir(session().home().path(u".local/share/Lanternix/backups"_s)).removeRecursively());
+  tabTo(reader.find(question, u"push button"_s, u"Restore"_s));
+  input().tap(XK_space);
+  requireClosed(question);
+  program().settle();
+  EXPECT_EQ(storedItems(u"Work"_s), QStringList(u"Report"_s));
+  EXPECT_TRUE(program().isRunning());
+}
+
 TEST_F(DataFlowTest, ARetentionThatIsTyped_IsStored) {
   openData();
   const auto field = control(u"spin box"_s, u"Backup Retention"_s);
@@ -130,6 +142,17 @@ TEST_F(DataFlowTest, Import_BringsTheExportedDataBack) {
   input().tap(XK_Return);
   requireClosed(message);
   EXPECT_TRUE(becomesStored(u"Work"_s, {u"Report"_s}));
+}
+
+TEST_F(DataFlowTest, AnImportOfRubbish_LeavesTheDataAlone) {
+  openData();
+  const QString file = session().home().path(u"rubbish.json"_s);
+  ProgramEnvironment::write(file, QByteArray(100'000, '{'));
+  press(u"Import..."_s, u"Import Data"_s);
+  answer(file);
+  leaveByReturn(u"Import Successful"_s);
+  EXPECT_EQ(storedItems(u"Work"_s), QStringList(u"Report"_s));
+  EXPECT_TRUE(program().isRunning());
 }
 
 TEST_F(DataFlowTest, AnExportLeftByEscape_WritesNothing) {

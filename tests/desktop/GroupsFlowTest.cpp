@@ -33,6 +33,10 @@ class GroupsFlowTest : public SettingsFlowTest {
   }
   /// Drags from \p from to \p to, and lets go when \p mark, on the screen, has changed.
   void drag(QPoint from, QPoint to, const QRect &mark) {
+    dragAndHold(from, to, mark);
+    input().releaseButton();
+  }
+  void dragAndHold(QPoint from, QPoint to, const QRect &mark) {
     int trembling = 0;
     const auto hover = [&](QPoint place) { input().moveTo(place + QPoint(++trembling % 2, 0)); };
     const QImage before = settingsAt(mark);
@@ -48,7 +52,6 @@ class GroupsFlowTest : public SettingsFlowTest {
       program().settle();
       return settingsAt(mark) != before;
     });
-    input().releaseButton();
   }
 };
 
@@ -142,6 +145,29 @@ TEST_F(GroupsFlowTest, AnItemDraggedBetweenOthers_GoesThere) {
   drag(QPoint(item.left() + 30, item.center().y()), other.topLeft() + QPoint(90, 4),
        QRect(other.left() + 4, other.top(), 30, 5));
   EXPECT_TRUE(becomesStored(u"Work"_s, {u"Plan"_s, u"Report"_s, u"Notes"_s}));
+}
+
+TEST_F(GroupsFlowTest, AGroupDraggedAboveAnother_GoesThere) {
+  openTwoGroups();
+  const QRect group = reader.geometry(row(u"Home"_s));
+  const QRect other = reader.geometry(row(u"Work"_s));
+  drag(QPoint(group.left() + 30, group.center().y()), other.topLeft() + QPoint(90, 4),
+       QRect(other.left() + 4, other.top(), 30, 5));
+  EXPECT_TRUE(waitUntil([&] { return storedGroups() == QStringList{u"Home"_s, u"Work"_s}; }));
+}
+
+TEST_F(GroupsFlowTest, Escape_EndsADragAndChangesNothing) {
+  openTwoGroups();
+  const QRect item = reader.geometry(row(u"Notes"_s));
+  const QRect group = reader.geometry(row(u"Home"_s));
+  dragAndHold(QPoint(item.left() + 30, item.center().y()), group.center(),
+              QRect(group.left() + 10, group.top() + 4, 30, group.height() - 8));
+  input().tap(XK_Escape);
+  program().settle();
+  input().releaseButton();
+  select(u"Home"_s);  // the mouse is as it was
+  EXPECT_TRUE(areSettingsShown());
+  EXPECT_EQ(storedItems(u"Work"_s), (QStringList{u"Report"_s, u"Notes"_s, u"Plan"_s}));
 }
 
 TEST_F(GroupsFlowTest, AltAndTheArrows_MoveTheSelectedItem) {

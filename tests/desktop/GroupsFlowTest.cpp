@@ -177,6 +177,35 @@ TEST_F(GroupsFlowTest, AltAndTheArrows_MoveTheSelectedItem) {
   EXPECT_TRUE(becomesStored(u"Work"_s, {u"Notes"_s, u"Report"_s, u"Plan"_s}));
 }
 
+TEST_F(GroupsFlowTest, F2_RenamesTheSelectedItem) {
+  openTwoGroups();
+  select(u"Notes"_s);
+  input().tap(XK_F2);
+  const auto editor = dialog(u"Edit Item"_s);
+  input().tap(XK_a, {XK_Control_L});
+  input().type(u"Minutes"_s);
+  input().tap(XK_Return);
+  requireClosed(editor);
+  EXPECT_TRUE(becomesStored(u"Work"_s, {u"Report"_s, u"Minutes"_s, u"Plan"_s}));
+}
+
+TEST_F(GroupsFlowTest, TheKeyboardAlone_MovesAnItemByItsMenu) {
+  openTwoGroups();
+  select(u"Notes"_s);
+  const auto areOpen = [this](qsizetype count) {
+    return [this, count] { return session().windows().menus(u"lanternix"_s).size() == count; };
+  };
+  input().tap(XK_Menu);
+  require(u"the item's menu"_s, areOpen(1));
+  for (int entry = 0; entry < 3; ++entry) {  // past "Edit Item..." and "Duplicate"
+    input().tap(XK_Down);
+  }
+  input().tap(XK_Right);
+  require(u"the menu of the groups"_s, areOpen(2));
+  input().tap(XK_Return);
+  EXPECT_TRUE(becomesStored(u"Home"_s, {u"Notes"_s}));
+}
+
 TEST_F(GroupsFlowTest, Escape_KeepsTheItemThatDeleteAskedAbout) {
   openTwoGroups();
   select(u"Notes"_s);

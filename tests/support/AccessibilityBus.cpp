@@ -61,6 +61,16 @@ AccessibilityBus::Node readNode(const QDBusArgument &argument) {
   return node;
 }
 
+QList<AccessibilityBus::Node> readNodes(const QDBusArgument &argument) {
+  QList<AccessibilityBus::Node> nodes;
+  argument.beginArray();
+  while (!argument.atEnd()) {
+    nodes.append(readNode(argument));
+  }
+  argument.endArray();
+  return nodes;
+}
+
 }  // namespace
 
 AccessibilityBus::AccessibilityBus(const DesktopSession &session)
@@ -125,14 +135,27 @@ AccessibilityBus::Node AccessibilityBus::program(const QString &name) {
 
 QList<AccessibilityBus::Node> AccessibilityBus::children(const Node &node) const {
   const QVariant list = call(node, accessible, u"GetChildren"_s).arguments().value(0);
+  return list.canConvert<QDBusArgument>() ? readNodes(list.value<QDBusArgument>()) : QList<Node>();
+}
+
+QList<AccessibilityBus::Node> AccessibilityBus::labels(const Node &node) const {
+  constexpr uint labelledBy = 2;
+  const QVariant relations = call(node, accessible, u"GetRelationSet"_s).arguments().value(0);
   QList<Node> nodes;
-  if (!list.canConvert<QDBusArgument>()) {
+  if (!relations.canConvert<QDBusArgument>()) {
     return nodes;
   }
-  const auto argument = list.value<QDBusArgument>();
+  const auto argument = relations.value<QDBusArgument>();
   argument.beginArray();
   while (!argument.atEnd()) {
-    nodes.append(readNode(argument));
+    uint kind = 0;
+    argument.beginStructure();
+    argument >> kind;
+    const QList<Node> related = readNodes(argument);
+    argument.endStructure();
+    if (kind == labelledBy) {
+      nodes.append(related);
+    }
   }
   argument.endArray();
   return nodes;

@@ -61,6 +61,8 @@ class AccessibilityBus : public QObject {
 
   QString name(const Node &node) const;
   QString description(const Node &node) const;
+  /// What the node is labelled by; none for most.
+  QList<Node> labels(const Node &node) const;
   /// Such as "tree item".
   QString role(const Node &node) const;
   /// Where it is on the screen.

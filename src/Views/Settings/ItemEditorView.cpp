@@ -12,6 +12,7 @@
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
 #include <utility>
@@ -32,7 +33,9 @@ TextLabel *makeTitle(const QString &text) {
 }
 
 /// A row of \p title and what fills the rest of the line.
-QWidget *makeRow(QWidget *title, QWidget *control, QWidget *button = nullptr) {
+QWidget *makeRow(QLabel *title, QWidget *control, QWidget *button = nullptr) {
+  // Readers call a list of choices by its label: its name is the choice itself.
+  title->setBuddy(control);
   auto *row = new QWidget;
   auto *layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);

@@ -151,6 +151,11 @@ TEST_F(KeyboardTest, CommaWithCommand_IsNotTypedIntoTheNextSearch) {
   startWithThree();
   input().tap(XK_comma, {XK_Super_L});
   ASSERT_TRUE(becomesHidden());
+  // The settings come instead, and take the keyboard.
+  ASSERT_TRUE(waitUntil([this] {
+    const auto settings = session().windows().find(u"lanternix"_s, u"Lanternix Settings"_s);
+    return settings.has_value() && session().windows().hasFocus(*settings);
+  }));
   showByShortcut();
   input().type(u"second"_s);
   input().tap(XK_Return);

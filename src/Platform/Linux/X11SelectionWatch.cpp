@@ -23,9 +23,9 @@ qsizetype screenNumber(const X11Server &server) {
 X11SelectionWatch::X11SelectionWatch(const X11Server &server, const char *prefix)
     : m_server(server) {
   const std::string name = prefix + std::to_string(screenNumber(server));
-  const auto atom = awaitReply(xcb_intern_atom_reply, server,
-                               xcb_intern_atom(server.connection(), 0,
-                                               static_cast<quint16>(name.size()), name.data()));
+  const auto atom = awaitReply(
+      xcb_intern_atom_reply, server,
+      xcb_intern_atom(server.connection(), 0, static_cast<quint16>(name.size()), name.data()));
   m_selection = atom ? atom->atom : xcb_atom_t{XCB_ATOM_NONE};
   select();
   const auto owner = awaitReply(xcb_get_selection_owner_reply, server,

@@ -43,6 +43,8 @@ class WindowSystem : public QObject {
     QSize size;
     int cornerRadius = 0;
     QMargins shadow;
+
+    friend bool operator==(const Frame &, const Frame &) = default;
   };
 
   /// Says what of \p window is the window proper, and what only its shadow: pressing there meets

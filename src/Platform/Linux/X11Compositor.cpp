@@ -46,6 +46,10 @@ X11Compositor::X11Compositor(const X11Server &server)
 }
 
 void X11Compositor::setFrame(xcb_window_t window, const WindowSystem::Frame &frame) {
+  const std::pair news(window, frame);
+  if (std::exchange(m_said, news) == news) {
+    return;
+  }
   xcb_connection_t *connection = m_server.connection();
   const QMargins &shadow = frame.shadow;
   if (shadow.isNull()) {

@@ -7,6 +7,7 @@
 #include <QtCore/QObject>
 
 #include <array>
+#include <optional>
 #include <span>
 
 namespace lanternix {
@@ -39,6 +40,9 @@ class X11Compositor : public QObject {
   const X11Server &m_server;
   X11SelectionWatch m_selection;
   std::array<xcb_atom_t, nameCount> m_atoms{};
+  /// What was said last: window managers take every repetition for news and shape their frames
+  /// anew.
+  std::optional<std::pair<xcb_window_t, WindowSystem::Frame>> m_said;
 };
 
 }  // namespace lanternix

@@ -119,6 +119,7 @@ TEST_F(PanelListMotionTest, ThePointersHighlight_FadesIn) {
   const QPoint edge(row.left() + 40, row.top() + 3);
   const auto colour = [&] { return view->viewport()->grab().toImage().pixelColor(edge); };
   const QColor plain = colour();
+  QTest::mouseMove(view->viewport(), view->rowRect(0).center());
   QTest::mouseMove(view->viewport(), row.center());
   EXPECT_EQ(colour(), plain) << "it starts from nothing";
   EXPECT_TRUE(waitUntil([&] { return colour() != plain; }));

@@ -8,7 +8,7 @@ DesktopSession::DesktopSession(WithManager withManager, WithBus withBus)
     : m_windowManager(withManager == WithManager::yes ? std::make_unique<WindowManager>(m_display)
                                                       : nullptr),
       m_bus(withBus == WithBus::yes ? std::make_unique<SessionBus>() : nullptr),
-      m_input(m_display.name()),
+      m_input(m_display.name(), m_windowManager.get()),
       m_windows(m_display.name()) {}
 
 QProcessEnvironment DesktopSession::variables() const {

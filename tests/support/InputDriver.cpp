@@ -1,6 +1,7 @@
 #include "support/InputDriver.h"
 
 #include "support/HarnessError.h"
+#include "support/WindowManager.h"
 
 #include <X11/keysym.h>
 #include <xcb/xtest.h>
@@ -9,7 +10,8 @@ namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
-InputDriver::InputDriver(const QString &displayName) : m_connection(displayName) {
+InputDriver::InputDriver(const QString &displayName, const WindowManager *manager)
+    : m_connection(displayName), m_manager(manager) {
   const XReply<xcb_test_get_version_reply_t> reply(
       xcb_test_get_version_reply(m_connection, xcb_test_get_version(m_connection, 2, 2), nullptr));
   if (!reply) {
@@ -78,6 +80,9 @@ void InputDriver::moveTo(QPoint position) {
 void InputDriver::pressButton(quint8 button) {
   m_heldButtons.append(button);
   send(XCB_BUTTON_PRESS, button);
+  if (m_manager != nullptr) {
+    m_manager->settle();
+  }
 }
 
 void InputDriver::releaseButton(quint8 button) {

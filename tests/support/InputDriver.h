@@ -7,7 +7,10 @@
 #include <QtCore/QPoint>
 
 #include <memory>
+
 namespace lanternix {
+
+class WindowManager;
 
 /// The hands at the keyboard and the mouse: events that no program can tell from a person's. Every
 /// call returns once the server has taken the event; what is still held at the end is released.
@@ -15,7 +18,10 @@ namespace lanternix {
 /// Keys are named by their X key symbols, such as XK_Escape or XK_comma.
 class InputDriver {
  public:
-  explicit InputDriver(const QString &displayName);
+  /// Each press of a button waits until \p manager, if any, has dealt with it. A window manager
+  /// that takes every press first and then hands it on makes the server lose the clicks of a hand
+  /// that is quicker than any person's.
+  explicit InputDriver(const QString &displayName, const WindowManager *manager = nullptr);
   ~InputDriver();
   Q_DISABLE_COPY_MOVE(InputDriver)
 
@@ -43,6 +49,7 @@ class InputDriver {
   void sendAndFlush(quint8 eventType, quint8 detail, QPoint position);
 
   XConnection m_connection;
+  const WindowManager *m_manager;
   std::unique_ptr<Keyboard> m_keyboard;
   QList<xcb_keycode_t> m_heldKeys;
   QList<quint8> m_heldButtons;

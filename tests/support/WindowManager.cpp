@@ -3,7 +3,6 @@
 #include "support/HarnessError.h"
 #include "support/VirtualDisplay.h"
 #include "support/WaitUntil.h"
-#include "support/XConnection.h"
 
 #include <QtCore/QFile>
 
@@ -65,7 +64,7 @@ void awaitEventLoop(const XConnection &connection) {
 }  // namespace
 
 WindowManager::WindowManager(const VirtualDisplay &display)
-    : m_displayName(display.name()), m_process(u"openbox"_s, u"openbox"_s) {
+    : m_connection(display.name()), m_process(u"openbox"_s, u"openbox"_s) {
   QFile file(m_home.filePath(u"rc.xml"_s));
   if (!file.open(QIODevice::WriteOnly)) {
     throw HarnessError(file.errorString());
@@ -82,14 +81,12 @@ WindowManager::WindowManager(const VirtualDisplay &display)
   environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
   m_process.start({u"--sm-disable"_s, u"--config-file"_s, file.fileName()}, environment);
 
-  const XConnection connection(m_displayName);
-  require(u"the window manager"_s, [&] { return isManaged(connection); });
+  require(u"the window manager"_s, [&] { return isManaged(m_connection); });
   settle();
 }
 
 void WindowManager::settle() const {
-  const XConnection connection(m_displayName);
-  awaitEventLoop(connection);
+  awaitEventLoop(m_connection);
 }
 
 }  // namespace lanternix

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/ChildProcess.h"
+#include "support/XConnection.h"
 
 #include <QtCore/QTemporaryDir>
 
@@ -22,7 +23,9 @@ class WindowManager {
   void settle() const;
 
  private:
-  QString m_displayName;
+  /// One for all questions: a next one might get the windows' numbers again and, with them, answers
+  /// to the questions of the one before.
+  XConnection m_connection;
   QTemporaryDir m_home;
   ChildProcess m_process;
 };

@@ -19,7 +19,6 @@ namespace {
 
 constexpr QSize initialSize{700, 500};
 constexpr QSize smallestSize{400, 300};
-constexpr int cornerRadius = 12;
 
 }  // namespace
 

@@ -21,6 +21,9 @@ class FloatingPanel : public QWidget {
   Q_OBJECT
 
  public:
+  /// Of the frame, in logical pixels.
+  static constexpr int cornerRadius = 12;
+
   explicit FloatingPanel(WindowSystem &windowSystem);
   ~FloatingPanel() override;
 

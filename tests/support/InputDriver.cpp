@@ -80,7 +80,9 @@ void InputDriver::moveTo(QPoint position) {
 void InputDriver::pressButton(quint8 button) {
   m_heldButtons.append(button);
   send(XCB_BUTTON_PRESS, button);
-  if (m_manager != nullptr) {
+  // The others turn the wheel, which no window manager waits for.
+  constexpr quint8 lastThatClicks = 3;
+  if (m_manager != nullptr && button <= lastThatClicks) {
     m_manager->settle();
   }
 }

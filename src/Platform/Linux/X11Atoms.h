@@ -11,6 +11,8 @@ namespace lanternix {
 class X11Atoms {
  public:
   enum Name : std::size_t {
+    gtkFrameExtents,
+    kdeNetWmBlurBehindRegion,
     netActiveWindow,
     netSupportingWmCheck,
     netWmDesktop,

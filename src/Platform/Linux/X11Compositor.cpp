@@ -2,8 +2,6 @@
 
 #include "Platform/RoundedRegion.h"
 
-#include <algorithm>
-#include <string_view>
 #include <xcb/shape.h>
 
 namespace lanternix {
@@ -30,18 +28,8 @@ std::vector<quint32> outline(const WindowSystem::Frame &frame) {
 
 }  // namespace
 
-X11Compositor::X11Compositor(const X11Server &server)
-    : m_server(server), m_selection(server, "_NET_WM_CM_S") {
-  constexpr std::array<std::string_view, nameCount> names{"_GTK_FRAME_EXTENTS",
-                                                          "_KDE_NET_WM_BLUR_BEHIND_REGION"};
-  std::array<xcb_intern_atom_cookie_t, nameCount> cookies{};
-  std::ranges::transform(names, cookies.begin(), [&](std::string_view name) {
-    return xcb_intern_atom(server.connection(), 0, static_cast<quint16>(name.size()), name.data());
-  });
-  std::ranges::transform(cookies, m_atoms.begin(), [&](xcb_intern_atom_cookie_t cookie) {
-    const auto reply = awaitReply(xcb_intern_atom_reply, server, cookie);
-    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
-  });
+X11Compositor::X11Compositor(const X11Server &server, X11Atoms &atoms)
+    : m_server(server), m_atoms(atoms), m_selection(server, "_NET_WM_CM_S") {
   connect(&m_selection, &X11SelectionWatch::changed, this, &X11Compositor::changed);
 }
 
@@ -53,14 +41,14 @@ void X11Compositor::setFrame(xcb_window_t window, const WindowSystem::Frame &fra
   xcb_connection_t *connection = m_server.connection();
   const QMargins &shadow = frame.shadow;
   if (shadow.isNull()) {
-    xcb_delete_property(connection, window, m_atoms[frameExtents]);
-    xcb_delete_property(connection, window, m_atoms[blurBehind]);
+    xcb_delete_property(connection, window, m_atoms[X11Atoms::gtkFrameExtents]);
+    xcb_delete_property(connection, window, m_atoms[X11Atoms::kdeNetWmBlurBehindRegion]);
   } else {
     const std::array extents{
         static_cast<quint32>(shadow.left()), static_cast<quint32>(shadow.right()),
         static_cast<quint32>(shadow.top()), static_cast<quint32>(shadow.bottom())};
-    setNumbers(window, m_atoms[frameExtents], extents);
-    setNumbers(window, m_atoms[blurBehind], outline(frame));
+    setNumbers(window, m_atoms[X11Atoms::gtkFrameExtents], extents);
+    setNumbers(window, m_atoms[X11Atoms::kdeNetWmBlurBehindRegion], outline(frame));
   }
   if (hasExtension(m_server, xcb_shape_id)) {
     setShape(window, frame);

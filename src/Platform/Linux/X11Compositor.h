@@ -1,12 +1,12 @@
 #pragma once
 
+#include "Platform/Linux/X11Atoms.h"
 #include "Platform/Linux/X11SelectionWatch.h"
 #include "Platform/Linux/X11Server.h"
 #include "Platform/WindowSystem.h"
 
 #include <QtCore/QObject>
 
-#include <array>
 #include <optional>
 #include <span>
 
@@ -18,7 +18,8 @@ class X11Compositor : public QObject {
   Q_OBJECT
 
  public:
-  explicit X11Compositor(const X11Server &server);
+  /// Keeps the references.
+  X11Compositor(const X11Server &server, X11Atoms &atoms);
 
   bool isRunning() const { return m_selection.isOwned(); }
 
@@ -32,14 +33,12 @@ class X11Compositor : public QObject {
   void changed();
 
  private:
-  enum Name : std::size_t { frameExtents, blurBehind, nameCount };
-
   void setShape(xcb_window_t window, const WindowSystem::Frame &frame);
   void setNumbers(xcb_window_t window, xcb_atom_t property, std::span<const quint32> numbers);
 
   const X11Server &m_server;
+  X11Atoms &m_atoms;
   X11SelectionWatch m_selection;
-  std::array<xcb_atom_t, nameCount> m_atoms{};
   /// What was said last: window managers take every repetition for news and shape their frames
   /// anew.
   std::optional<std::pair<xcb_window_t, WindowSystem::Frame>> m_said;

@@ -41,7 +41,7 @@ bool comesTrue(Condition condition) {
 }  // namespace
 
 X11WindowSystem::X11WindowSystem(const X11Server &server, const X11EventTime &eventTime)
-    : m_server(server), m_eventTime(eventTime), m_atoms(server), m_compositor(server) {
+    : m_server(server), m_eventTime(eventTime), m_atoms(server), m_compositor(server, m_atoms) {
   connect(&m_compositor, &X11Compositor::changed, this, &WindowSystem::compositingChanged);
 }
 

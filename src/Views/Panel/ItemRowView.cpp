@@ -79,12 +79,14 @@ void ItemRowView::paint(QPainter &painter, const QPalette &palette, const QRectF
 
 void ItemRowView::paintHighlight(QPainter &painter, const QPalette &palette, const QRectF &row,
                                  State state) const {
-  const double opacity = state.selected ? 0.15 : 0.08 * state.hover;
-  if (opacity <= 0) {
+  constexpr double hoverOpacity = 0.08;
+  if (!state.selected && state.hover <= 0) {
     return;
   }
+  const auto hover = static_cast<float>(hoverOpacity * state.hover);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(withOpacity(accentColor(palette), static_cast<float>(opacity)));
+  painter.setBrush(state.selected ? selectionColor(palette)
+                                  : withOpacity(accentColor(palette), hover));
   painter.drawRoundedRect(
       row.adjusted(PanelMetrics::highlightInset, 0, -PanelMetrics::highlightInset, 0),
       PanelMetrics::highlightRadius, PanelMetrics::highlightRadius);

@@ -1,6 +1,7 @@
 #include "Views/Panel/PopupPanelView.h"
 
 #include "App/AppState.h"
+#include "Utilities/FloatingPanel.h"
 #include "Views/Panel/EmptyStateView.h"
 #include "Views/Panel/NoResultsView.h"
 #include "Views/Panel/PanelAccessibility.h"
@@ -28,12 +29,6 @@
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
-
-namespace {
-
-constexpr double cornerRadius = 12;
-
-}  // namespace
 
 PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
     : QWidget(parent),
@@ -155,7 +150,7 @@ void PopupPanelView::paintEvent(QPaintEvent * /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(materialColor(palette()));
-  painter.drawRoundedRect(rect(), cornerRadius, cornerRadius);
+  painter.drawRoundedRect(rect(), FloatingPanel::cornerRadius, FloatingPanel::cornerRadius);
 }
 
 }  // namespace lanternix

@@ -25,7 +25,6 @@ constexpr double sidePadding = 10;  // within the ground
 constexpr double linePadding = 2;
 constexpr double listPadding = 4;  // of the ground, above and below what the row holds
 constexpr double handleSpacing = 10;
-constexpr float accentOpacity = 0.15F;
 
 QFont nameFont() {
   return textFont(TextStyle::body, QFont::Medium);
@@ -71,7 +70,7 @@ void RecordRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
 
 QColor RecordRowDelegate::paintGround(QPainter &painter, const QStyleOptionViewItem &option,
                                       const QModelIndex &index) const {
-  const QColor accent = withOpacity(accentColor(option.palette), accentOpacity);
+  const QColor accent = selectionColor(option.palette);
   const QRectF shape = QRectF(option.rect).adjusted(groundInset, 1, -groundInset, -1);
   QColor ground = option.palette.color(QPalette::Window);
   const auto fill = [&](const QColor &color) {

@@ -11,9 +11,6 @@ namespace lanternix {
 
 namespace {
 
-/// Of the accent colour behind a selected row.
-constexpr float selectionOpacity = 0.15F;
-
 struct Opacities {
   float light;
   float dark;
@@ -50,6 +47,11 @@ QColor readable(QColor color, float opacity, const QColor &ground) {
 
 }  // namespace
 
+QColor selectionColor(const QPalette &palette) {
+  constexpr float opacity = 0.15F;
+  return withOpacity(accentColor(palette), opacity);
+}
+
 bool isDark(const QPalette &palette) {
   return palette.color(QPalette::Window).lightness() <
          palette.color(QPalette::WindowText).lightness();
@@ -62,7 +64,7 @@ QColor fillColor(FillStyle style, const QPalette &palette) {
     return plain;
   }
   // What the rows of lists are written in has to be read on the selected one, too.
-  const QColor selected = withOpacity(accentColor(palette), selectionOpacity);
+  const QColor selected = selectionColor(palette);
   return readable(plain, plain.alphaF(), Contrast::laidOn(window, selected));
 }
 

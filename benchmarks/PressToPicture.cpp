@@ -22,14 +22,6 @@ using Clock = std::chrono::steady_clock;
 constexpr QPoint firstRow{60, 120};
 constexpr quint16 commandAndShift = XCB_MOD_MASK_4 | XCB_MOD_MASK_SHIFT;
 
-void addIfAny(Series &series, const std::optional<PictureWatch::Duration> &duration,
-              const QString &what) {
-  if (!duration.has_value()) {
-    throw HarnessError(u"no "_s + what);
-  }
-  series.add(*duration);
-}
-
 }  // namespace
 
 WholeProgramFigures PressToPicture::measureProgram(const QByteArray &dataFile) {
@@ -74,34 +66,6 @@ WholeProgramFigures PressToPicture::measureFolding(const QByteArray &dataFile) {
   return figures;
 }
 
-WholeProgramFigures PressToPicture::measureSettings(const QByteArray &dataFile) {
-  DesktopSession session;
-  ProgramEnvironment::write(session.home().dataFile(), dataFile);
-  WholeProgramFigures figures;
-  for (int start = 0; start < m_effort.starts; ++start) {
-    Program program(session);
-    program.waitForPanel();
-    program.settle();
-    const Clock::time_point begin = Clock::now();
-    session.input().tap(XK_comma, {XK_Control_L});
-    // There is no window to watch before it is made, so its picture is looked at over and over.
-    QImage picture;
-    Clock::time_point changed = begin;
-    constexpr std::chrono::milliseconds silence{150};
-    require(u"the settings"_s, [&] {
-      const auto window = session.windows().find(u"lanternix"_s, u"Lanternix Settings"_s);
-      const QImage now = window ? session.windows().grab(*window) : QImage();
-      if (now != picture) {
-        picture = now;
-        changed = Clock::now();
-      }
-      return WindowProbe::hasContent(picture) && Clock::now() - changed > silence;
-    });
-    figures.openingToSettledSettings.add(changed - begin);
-  }
-  return figures;
-}
-
 WholeProgramFigures PressToPicture::measureBareClient() {
   DesktopSession session;
   ChildProcess client(QStringLiteral(BARE_CLIENT), u"lanternix"_s);
@@ -118,6 +82,14 @@ WholeProgramFigures PressToPicture::measureBareClient() {
   measurePresses(session, *window, figures);
   measureRest(client.processId(), figures);
   return figures;
+}
+
+void PressToPicture::addIfAny(Series &series, const std::optional<PictureWatch::Duration> &duration,
+                              const QString &what) {
+  if (!duration.has_value()) {
+    throw HarnessError(u"no "_s + what);
+  }
+  series.add(*duration);
 }
 
 void PressToPicture::measureStarts(DesktopSession &session, WholeProgramFigures &figures) const {

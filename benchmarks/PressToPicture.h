@@ -16,6 +16,7 @@ struct Effort {
   int presses = 60;
   int wheelSteps = 40;
   int foldings = 20;
+  int arrangements = 20;
   std::chrono::seconds hiddenTime{20};
 };
 
@@ -30,6 +31,9 @@ struct WholeProgramFigures {
   Series wheelStepToSettled;
   /// At the first opening, when the window is made.
   Series openingToSettledSettings;
+  Series selectionToSettled;
+  /// Of an item among those of its group, until the new order is on the disk and to be seen.
+  Series dropToSettled;
   Series longestGapWhileUnfolding;
   Series processorTimePerFrame;
   qint64 proportionalSetSizeKilobytes = 0;
@@ -48,11 +52,17 @@ class PressToPicture {
   WholeProgramFigures measureProgram(const QByteArray &dataFile);
   /// Only the first opening of the settings.
   WholeProgramFigures measureSettings(const QByteArray &dataFile);
+  /// Only what is done with the mouse in the settings' Groups tab. Needs two large groups.
+  WholeProgramFigures measureArranging(const QByteArray &dataFile);
   WholeProgramFigures measureBareClient();
   /// Only what concerns folding. The first group of \p dataFile is measured, folded at the start.
   WholeProgramFigures measureFolding(const QByteArray &dataFile);
 
  private:
+  /// Adds \p duration. Throws HarnessError, saying that there was no \p what, when there is none.
+  static void addIfAny(Series &series, const std::optional<PictureWatch::Duration> &duration,
+                       const QString &what);
+
   void measureStarts(DesktopSession &session, WholeProgramFigures &figures) const;
   void measurePresses(DesktopSession &session, xcb_window_t window,
                       WholeProgramFigures &figures) const;

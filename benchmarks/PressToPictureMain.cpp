@@ -43,11 +43,12 @@ QByteArray documentOf(int itemCount, int groupCount = 100, bool firstIsFolded = 
 class Table {
  public:
   Table(WholeProgramFigures few, WholeProgramFigures many, WholeProgramFigures folding,
-        WholeProgramFigures settings, WholeProgramFigures bare)
+        WholeProgramFigures settings, WholeProgramFigures arranging, WholeProgramFigures bare)
       : m_few(std::move(few)),
         m_many(std::move(many)),
         m_folding(std::move(folding)),
         m_settings(std::move(settings)),
+        m_arranging(std::move(arranging)),
         m_bare(std::move(bare)) {}
 
   void print() {
@@ -64,6 +65,10 @@ class Table {
         u"16 ms"_s);
     row(u"Control+comma to settled settings, the first time"_s, u"–"_s,
         m_settings.openingToSettledSettings.text(), u"120 ms"_s);
+    row(u"selecting a group of 1,000 items to settled"_s, u"–"_s,
+        m_arranging.selectionToSettled.text(), u"30 ms"_s);
+    row(u"dropping one of them to settled and saved"_s, u"–"_s, m_arranging.dropToSettled.text(),
+        u"50 ms"_s);
     row(u"proportional set size, hidden"_s, megabytes(m_few.proportionalSetSizeKilobytes),
         megabytes(m_many.proportionalSetSizeKilobytes), u"40 MB"_s);
     row(u"resident set size, hidden"_s, megabytes(m_few.residentSetSizeKilobytes),
@@ -97,6 +102,7 @@ class Table {
   WholeProgramFigures m_many;
   WholeProgramFigures m_folding;
   WholeProgramFigures m_settings;
+  WholeProgramFigures m_arranging;
   WholeProgramFigures m_bare;
 };
 
@@ -112,6 +118,7 @@ int main(int argc, char **argv) {
               .presses = 8,
               .wheelSteps = 8,
               .foldings = 6,
+              .arrangements = 6,
               .hiddenTime = std::chrono::seconds(5)};
   }
   try {
@@ -120,7 +127,8 @@ int main(int argc, char **argv) {
     constexpr int many = 10000;
     Table(benchmark.measureProgram(documentOf(few)), benchmark.measureProgram(documentOf(many)),
           benchmark.measureFolding(documentOf(many, 10, true)),
-          benchmark.measureSettings(documentOf(many)), benchmark.measureBareClient())
+          benchmark.measureSettings(documentOf(many)),
+          benchmark.measureArranging(documentOf(many, 10)), benchmark.measureBareClient())
         .print();
   } catch (const std::exception &error) {
     QTextStream(stderr) << error.what() << Qt::endl;

@@ -53,6 +53,15 @@ class DataFlowTest : public SettingsFlowTest {
   }
 };
 
+TEST_F(DataFlowTest, APressBesideAMessage_LeavesTheMessageTheKeyboard) {
+  openData();
+  press(u"Create Backup"_s, u"Backup Created"_s);
+  const QRect place = session().windows().geometry(settings());
+  input().click(place.bottomLeft() + QPoint(20, -20));
+  program().settle();
+  leaveByReturn(u"Backup Created"_s);
+}
+
 TEST_F(DataFlowTest, CreateBackup_WritesAFileAndSaysSo) {
   openData();
   const QStringList before = backups();

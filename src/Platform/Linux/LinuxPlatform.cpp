@@ -13,6 +13,7 @@
 #include "Platform/Linux/StatusNotifierHost.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
+#include "Platform/Linux/X11ModalFocus.h"
 #include "Platform/Linux/X11SelectionWatch.h"
 #include "Platform/Linux/X11Server.h"
 #include "Platform/Linux/X11WindowSystem.h"
@@ -90,6 +91,7 @@ class X11Platform : public LinuxPlatform {
   X11HotkeyRegistrar m_hotkeyRegistrar{m_server, m_eventTime};
   XInputMouseMonitor m_mouseMonitor{m_server, m_eventTime};
   X11WindowSystem m_windowSystem{m_server, m_eventTime};
+  X11ModalFocus m_modalFocus{m_windowSystem};
 };
 
 /// Where the window system is none that we know more of than Qt does.

@@ -1,10 +1,13 @@
 #include "Services/JsonStringReader.h"
 
+#include "Services/Utf8.h"
+
 #include <QtCore/QChar>
 #include <QtCore/QtEndian>
 
 #include <bit>
 #include <cstring>
+#include <iterator>
 
 namespace lanternix {
 
@@ -168,7 +171,7 @@ bool JsonStringReader::appendUnicodeEscape() {
         QChar::surrogateToUcs4(static_cast<char16_t>(codePoint), static_cast<char16_t>(low));
   }
   m_seen |= codePoint < 0x80 ? 0 : 0x80;
-  appendUtf8(codePoint);
+  writeUtf8(codePoint, std::back_inserter(m_resolved));
   return true;
 }
 
@@ -186,26 +189,6 @@ bool JsonStringReader::readCodeUnit(char32_t &unit) {
     unit = unit * 16 + static_cast<char32_t>(digit);
   }
   return true;
-}
-
-void JsonStringReader::appendUtf8(char32_t codePoint) {
-  const auto append = [this](char32_t byte) { m_resolved.push_back(static_cast<char>(byte)); };
-  const auto appendContinuation = [append](char32_t bits) { append(0x80 | (bits & 0x3f)); };
-  if (codePoint < 0x80) {
-    append(codePoint);
-  } else if (codePoint < 0x800) {
-    append(0xc0 | (codePoint >> 6));
-    appendContinuation(codePoint);
-  } else if (codePoint < 0x10000) {
-    append(0xe0 | (codePoint >> 12));
-    appendContinuation(codePoint >> 6);
-    appendContinuation(codePoint);
-  } else {
-    append(0xf0 | (codePoint >> 18));
-    appendContinuation(codePoint >> 12);
-    appendContinuation(codePoint >> 6);
-    appendContinuation(codePoint);
-  }
 }
 
 bool JsonStringReader::fail(const char *position, const char *error) {

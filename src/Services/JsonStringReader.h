@@ -29,7 +29,6 @@ class JsonStringReader {
   bool appendEscape();
   bool appendUnicodeEscape();
   bool readCodeUnit(char32_t &unit);
-  void appendUtf8(char32_t codePoint);
   bool fail(const char *position, const char *error);
 
   const char *m_position = nullptr;

@@ -1,6 +1,7 @@
 #include "Services/JsonWriter.h"
 
 #include "Services/JsonNumber.h"
+#include "Services/Utf8.h"
 
 #include <QtCore/QChar>
 #include <QtCore/QUuid>
@@ -107,12 +108,12 @@ const char16_t *JsonWriter::putCharacter(const char16_t *unit, const char16_t *e
   if (*unit < 0x80 && *unit != 0x7f) {
     putEscaped(*unit);
   } else if (!QChar::isSurrogate(*unit)) {
-    putUtf8(*unit);
+    m_position = writeUtf8(*unit, m_position);
   } else if (QChar::isHighSurrogate(*unit) && unit + 1 != end && QChar::isLowSurrogate(unit[1])) {
-    putUtf8(QChar::surrogateToUcs4(unit[0], unit[1]));
+    m_position = writeUtf8(QChar::surrogateToUcs4(unit[0], unit[1]), m_position);
     return unit + 2;
   } else {
-    putUtf8(QChar::ReplacementCharacter);
+    m_position = writeUtf8(QChar::ReplacementCharacter, m_position);
   }
   return unit + 1;
 }
@@ -128,26 +129,6 @@ void JsonWriter::putEscaped(char16_t unit) {
   for (const char character :
        {'u', '0', '0', lowerCaseDigits[unit >> 4], lowerCaseDigits[unit & 0xf]}) {
     *m_position++ = character;
-  }
-}
-
-void JsonWriter::putUtf8(char32_t codePoint) {
-  const auto put = [this](char32_t byte) { *m_position++ = static_cast<char>(byte); };
-  const auto putContinuation = [put](char32_t bits) { put(0x80 | (bits & 0x3f)); };
-  if (codePoint < 0x80) {
-    put(codePoint);
-  } else if (codePoint < 0x800) {
-    put(0xc0 | (codePoint >> 6));
-    putContinuation(codePoint);
-  } else if (codePoint < 0x10000) {
-    put(0xe0 | (codePoint >> 12));
-    putContinuation(codePoint >> 6);
-    putContinuation(codePoint);
-  } else {
-    put(0xf0 | (codePoint >> 18));
-    putContinuation(codePoint >> 12);
-    putContinuation(codePoint >> 6);
-    putContinuation(codePoint);
   }
 }
 

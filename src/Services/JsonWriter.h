@@ -50,7 +50,6 @@ class JsonWriter {
   /// All three want room for an escape, six bytes.
   const char16_t *putCharacter(const char16_t *unit, const char16_t *end);
   void putEscaped(char16_t unit);
-  void putUtf8(char32_t codePoint);
   /// Makes sure that \p count more bytes fit.
   void reserve(qsizetype count) {
     if (m_end - m_position < count) {

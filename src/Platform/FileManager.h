@@ -21,7 +21,8 @@ class FileManager {
   /// Creates \p path with all its parents. True when the directory is there afterwards.
   virtual bool createDirectory(const QString &path) = 0;
 
-  /// The whole file, or none when it cannot be read.
+  /// The whole file, or none when it cannot be read: also when it is no regular file, or so large
+  /// that it would take the user's memory. There is no other limit to data, backups and imports.
   virtual std::optional<QByteArray> contents(const QString &path) const = 0;
 
   /// Replaces the file at \p path by \p bytes in one step and sees both the data and the directory

@@ -137,17 +137,28 @@ TEST_F(DataTabExchangeTest, AHundredMegabytesOfRubbish_ChangeNothing) {
   EXPECT_EQ(alert(), imported);
 }
 
-TEST_F(DataTabExchangeTest, AFileTooLargeForADocument_ChangesNothingAndIsNotRead) {
+TEST_F(DataTabExchangeTest, ALargeDocument_IsImportedToo) {
+  const PathGroup group = this->group(u"Work"_s);
+  show();
+  fileChooser.answer = home.root() + u"/large.json"_s;
+  constexpr qsizetype blanks = 150'000'000;
+  TemporaryHome::write(*fileChooser.answer,
+                       *DataDocument{{group}, {}}.encoded() + QByteArray(blanks, ' '));
+  click(u"Import..."_s);
+  EXPECT_EQ(state->groups(), QList{group});
+  EXPECT_EQ(alert(), imported);
+}
+
+TEST_F(DataTabExchangeTest, AFileTooLargeToBeRead_ChangesNothingAndSaysNothing) {
   const PathGroup group = this->group(u"Work"_s);
   state = makeState({group}, {});
   show();
   fileChooser.answer = home.root() + u"/huge.json"_s;
-  // A document, had the blanks behind it been read.
   TemporaryHome::write(*fileChooser.answer, *DataDocument{}.encoded());
-  ASSERT_TRUE(QFile::resize(*fileChooser.answer, DataSettingsTab::largestImport + 1));
+  ASSERT_TRUE(QFile::resize(*fileChooser.answer, PosixFileManager::largestFile + 1));
   click(u"Import..."_s);
   EXPECT_EQ(state->groups(), QList{group});
-  EXPECT_EQ(alert(), imported);
+  EXPECT_EQ(alert(), QStringList());
 }
 
 }  // namespace lanternix

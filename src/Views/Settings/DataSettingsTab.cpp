@@ -11,7 +11,6 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtCore/QLoggingCategory>
 #include <QtCore/QStandardPaths>
 #include <QtWidgets/QPushButton>
 
@@ -22,8 +21,6 @@ using namespace Qt::StringLiterals;
 namespace lanternix {
 
 namespace {
-
-Q_LOGGING_CATEGORY(dataTab, "lanternix.data", QtWarningMsg)
 
 constexpr int fewestBackups = 1;
 constexpr int mostBackups = 365;
@@ -135,16 +132,11 @@ void DataSettingsTab::importData() {
 }
 
 void DataSettingsTab::importFile(const QString &path) {
-  const qint64 size = QFileInfo(path).size();
-  if (size > largestImport) {
-    qCWarning(dataTab) << path << "is too large for a data document:" << size << "bytes";
-  } else {
-    const std::optional<QByteArray> bytes = m_appState.fileManager().contents(path);
-    if (!bytes) {
-      return;
-    }
-    m_appState.importData(*bytes);
+  const std::optional<QByteArray> bytes = m_appState.fileManager().contents(path);
+  if (!bytes) {
+    return;
   }
+  m_appState.importData(*bytes);
   Alert{.title = u"Import Successful"_s,
         .message = u"Your data has been restored successfully."_s,
         .destructiveAction = {}}

@@ -18,10 +18,6 @@ class DataSettingsTab : public FormView {
   Q_OBJECT
 
  public:
-  /// Of a greater file not a byte is read: no document comes near, and reading one would keep the
-  /// program from answering.
-  static constexpr qint64 largestImport = qint64{128} << 20;
-
   /// \p fileChooser answers for the files of export and import.
   explicit DataSettingsTab(AppState &appState, QWidget *parent = nullptr,
                            FileChooser &fileChooser = DesktopFileChooser::shared());

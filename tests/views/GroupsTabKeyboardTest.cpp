@@ -145,6 +145,18 @@ TEST_F(GroupsTabKeyboardTest, AfterADeletion_TheArrowsGoOnFromThere) {
   EXPECT_EQ(tab->selectedItemId(), plan.id);
 }
 
+TEST_F(GroupsTabKeyboardTest, AfterADeletion_AnotherGroup_BeginsAtItsTop) {
+  const PathItem shed = item(u"Shed"_s, home_, 1);
+  const PathItem pond = item(u"Pond"_s, home_, 2);
+  show({work, home_}, {report, notes, plan, garden, shed, pond});
+  click(groupList(), 0);
+  click(itemList(), 1);
+  state->deleteItem(notes.id);
+  click(groupList(), 1);
+  press(itemList(), Qt::Key_Down);
+  EXPECT_EQ(tab->selectedItemId(), garden.id);
+}
+
 TEST_F(GroupsTabKeyboardTest, ATripleClick_EditsOnce) {
   show();
   QSignalSpy edits(&groupList(), &RecordListView::editRequested);

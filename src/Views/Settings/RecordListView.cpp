@@ -38,6 +38,7 @@ RecordListView::RecordListView(RecordListModel &model, const QString &name, QWid
 }
 
 void RecordListView::setSelectedId(const std::optional<QUuid> &id) {
+  m_vacatedRow.reset();
   const QModelIndex index = id.has_value() ? m_model.index(m_model.rowOf(*id)) : QModelIndex();
   if (index.isValid()) {
     setCurrentIndex(index);

@@ -26,7 +26,8 @@ class RecordListView : public QListView {
   RecordListView(RecordListModel &model, const QString &name, QWidget *parent = nullptr);
 
   const std::optional<QUuid> &selectedId() const { return m_selectedId; }
-  /// An id that is not in the list selects nothing.
+  /// An id that is not in the list selects nothing. The arrow keys begin at the list's ends then,
+  /// wherever a row was deleted before.
   void setSelectedId(const std::optional<QUuid> &id);
 
   /// Where the row that is dragged would go: before the row of this number.

@@ -4,6 +4,7 @@
 #include "support/TemporaryVariable.h"
 
 #include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 
 #include <csignal>
 #include <gtest/gtest.h>
@@ -72,6 +73,14 @@ TEST_F(AutostartLoginItemTest, EntryThatIsNone_IsNotFound) {
 
 TEST_F(AutostartLoginItemTest, DirectoryInPlaceOfTheEntry_IsNotFound) {
   QDir().mkpath(userEntry);
+  EXPECT_EQ(item.status(), Status::notFound);
+}
+
+TEST_F(AutostartLoginItemTest, LinkToNowhereInPlaceOfTheEntry_CountsAsTheUsersOwn) {
+  TemporaryHome::write(systemEntry, "[Desktop Entry]\nType=Application\nName=Lanternix\n" + exec());
+  ASSERT_EQ(item.status(), Status::enabled);
+  QDir().mkpath(QFileInfo(userEntry).path());
+  ASSERT_TRUE(QFile::link(home.root() + u"/gone"_s, userEntry));
   EXPECT_EQ(item.status(), Status::notFound);
 }
 

@@ -82,7 +82,9 @@ AutostartLoginItem::AutostartLoginItem(const FileManager &fileManager, QString p
 
 LoginItem::Status AutostartLoginItem::status() const {
   // An entry of the user's counts even where it cannot be read: desktops look no further either.
-  const QString path = QFileInfo::exists(userEntry()) ? userEntry() : systemEntry();
+  // Nor do they where it is a link to nowhere.
+  const QFileInfo users(userEntry());
+  const QString path = users.exists() || users.isSymLink() ? users.filePath() : systemEntry();
   if (path.isEmpty()) {
     return Status::notRegistered;
   }

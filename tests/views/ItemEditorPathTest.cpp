@@ -126,4 +126,22 @@ TEST_F(ItemEditorPathTest, APastedCommandOfSeveralLines_StaysThatCommand) {
   EXPECT_EQ(state->items().first().path, u"echo one\necho two"_s);
 }
 
+TEST_F(ItemEditorPathTest, ACommandOfSeveralLines_BecomesOneLineWithAnotherType) {
+  const ItemEditorView *editor = openNew();
+  picker(*editor, u"Type"_s)->setCurrentIndex(3);
+  field(*editor, u"Name"_s)->setText(u"Both"_s);
+  field(*editor, u"Command"_s)->setText(u"/tmp/one\ntwo"_s);
+  picker(*editor, u"Type"_s)->setCurrentIndex(1);
+  button(*editor, u"Add Item"_s)->click();
+  EXPECT_EQ(state->items().first().path, u"/tmp/one two"_s);
+}
+
+TEST_F(ItemEditorPathTest, AStoredPathWithALineBreak_IsSavedAsItWas) {
+  PathItem item = typed(ItemType::file);
+  item.path = u"/tmp/one\ntwo"_s;
+  const ItemEditorView *editor = openEditing(item);
+  button(*editor, u"Save"_s)->click();
+  EXPECT_EQ(state->items().first().path, u"/tmp/one\ntwo"_s);
+}
+
 }  // namespace lanternix

@@ -116,8 +116,16 @@ void ItemEditorView::addTypeRow(FormSection &section) {
   for (const ItemType type : allItemTypes) {
     picker->addItem(symbolIcon(systemImage(type)), displayName(type));
   }
-  connect(picker, &QComboBox::currentIndexChanged, this,
-          [this](int index) { setSelectedType(allItemTypes.at(static_cast<std::size_t>(index))); });
+  connect(picker, &QComboBox::currentIndexChanged, this, [this](int index) {
+    const bool wasCommand = m_selectedType == ItemType::command;
+    setSelectedType(allItemTypes.at(static_cast<std::size_t>(index)));
+    if (wasCommand) {
+      // It may be of several lines. The field looks only at a text that is new to it.
+      const QString command = m_path->text();
+      m_path->clear();
+      m_path->setText(command);
+    }
+  });
   section.addRow(makeRow(makeTitle(u"Type"_s), picker));
 }
 

@@ -206,6 +206,18 @@ TEST_F(GroupsFlowTest, TheKeyboardAlone_MovesAnItemByItsMenu) {
   EXPECT_TRUE(becomesStored(u"Home"_s, {u"Notes"_s}));
 }
 
+TEST_F(GroupsFlowTest, AKeyboardWithoutAMenuKey_DuplicatesAnItemByItsMenu) {
+  openTwoGroups();
+  select(u"Notes"_s);
+  input().tap(XK_F10, {XK_Shift_L});
+  require(u"the item's menu"_s,
+          [this] { return session().windows().menus(u"lanternix"_s).size() == 1; });
+  input().tap(XK_Down);
+  input().tap(XK_Down);
+  input().tap(XK_Return);
+  EXPECT_TRUE(waitUntil([&] { return storedItems(u"Work"_s).size() == 4; }));
+}
+
 TEST_F(GroupsFlowTest, Escape_KeepsTheItemThatDeleteAskedAbout) {
   openTwoGroups();
   select(u"Notes"_s);

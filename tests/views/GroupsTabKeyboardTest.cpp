@@ -108,6 +108,21 @@ TEST_F(GroupsTabKeyboardTest, TheMenuKey_OpensTheMenuOfTheSelectedRow) {
   EXPECT_EQ(dialogTexts().front(), u"Delete \"Home\"?"_s);
 }
 
+TEST_F(GroupsTabKeyboardTest, ShiftF10_OpensTheMenuOfTheSelectedRow) {
+  show();
+  press(groupList(), Qt::Key_F10, Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "nothing is selected";
+  click(groupList(), 1);
+  press(groupList(), Qt::Key_F10);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "another key";
+  press(groupList(), Qt::Key_F10, Qt::ShiftModifier);
+  auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  EXPECT_GE(menu->y(), groupList().viewport()->mapToGlobal(rowRect(groupList(), 1).center()).y());
+  choose(*menu, u"Delete Group"_s);
+  EXPECT_EQ(dialogTexts().front(), u"Delete \"Home\"?"_s);
+}
+
 TEST_F(GroupsTabKeyboardTest, TheMenuKey_WithNothingSelected_OpensNothing) {
   show();
   QContextMenuEvent event(QContextMenuEvent::Keyboard, {20, 20}, {20, 20});

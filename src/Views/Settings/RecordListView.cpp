@@ -150,6 +150,9 @@ bool RecordListView::handleKey(const QKeyEvent &event) {
         return true;
       }
       return false;
+    case Qt::Key_F10:
+      // Many keyboards have no menu key, for which this is the usual replacement.
+      return modifiers == Qt::ShiftModifier && openMenuOfSelected();
     case Qt::Key_Delete:
       if (id.has_value() && modifiers == Qt::NoModifier) {
         Q_EMIT deletionRequested(*id);
@@ -184,21 +187,23 @@ bool RecordListView::selectAnew(int step) {
 }
 
 void RecordListView::contextMenuEvent(QContextMenuEvent *event) {
-  const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-  const QModelIndex index = byKey ? currentIndex() : indexAt(event->pos());
-  const std::optional<QUuid> id = byKey ? m_selectedId : m_model.idAt(index.row());
-  if (!id.has_value()) {
-    return;
+  if (event->reason() == QContextMenuEvent::Keyboard) {
+    openMenuOfSelected();
+  } else if (const std::optional<QUuid> id = m_model.idAt(indexAt(event->pos()).row())) {
+    Q_EMIT menuRequested(*id, event->globalPos());
   }
-  QPoint position = event->globalPos();
-  if (byKey) {
-    scrollTo(index);
-    // Below the row, which stays readable.
-    constexpr int indentation = 20;
-    const QRect row = visualRect(index);
-    position = viewport()->mapToGlobal(row.bottomLeft() + QPoint(indentation, 0));
+}
+
+bool RecordListView::openMenuOfSelected() {
+  if (!m_selectedId.has_value()) {
+    return false;
   }
-  Q_EMIT menuRequested(*id, position);
+  scrollTo(currentIndex());
+  // Below the row, which stays readable.
+  constexpr int indentation = 20;
+  const QPoint corner = visualRect(currentIndex()).bottomLeft() + QPoint(indentation, 0);
+  Q_EMIT menuRequested(*m_selectedId, viewport()->mapToGlobal(corner));
+  return true;
 }
 
 }  // namespace lanternix

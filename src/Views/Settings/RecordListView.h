@@ -16,8 +16,8 @@ class RecordListModel;
 /// the keyboard alike. The selection is that of an id and stays with it when rows come, go or move.
 ///
 /// Keys: Up and Down select, F2 and Return edit, Delete asks to delete, Alt with Up and Down moves
-/// the row, the menu key opens its menu. Rows are dragged within the list, with a line where they
-/// would go; what else a row takes, lists that derive from this one say.
+/// the row, the menu key and Shift+F10 open its menu. Rows are dragged within the list, with a line
+/// where they would go; what else a row takes, lists that derive from this one say.
 class RecordListView : public QListView {
   Q_OBJECT
 
@@ -71,6 +71,7 @@ class RecordListView : public QListView {
   void note(const std::optional<QUuid> &selected);
   bool handleKey(const QKeyEvent &event);
   bool moveSelected(int step);
+  bool openMenuOfSelected();
   bool selectAnew(int step);
   void countClick(const QMouseEvent &event);
 

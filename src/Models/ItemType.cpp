@@ -62,4 +62,31 @@ QString systemImage(ItemType type) {
   Q_UNREACHABLE();
 }
 
+SystemColor colorOf(ItemType type) {
+  switch (type) {
+    case ItemType::directory:
+      return SystemColor::blue;
+    case ItemType::file:
+      return SystemColor::purple;
+    case ItemType::link:
+      return SystemColor::cyan;
+    case ItemType::command:
+      return SystemColor::orange;
+  }
+  Q_UNREACHABLE();
+}
+
+QString defectName(ItemType type) {
+  switch (type) {
+    case ItemType::directory:
+    case ItemType::file:
+      return u"not found"_s;
+    case ItemType::link:
+      return u"not a valid address"_s;
+    case ItemType::command:
+      return u"empty command"_s;
+  }
+  Q_UNREACHABLE();
+}
+
 }  // namespace lanternix

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Models/SystemColor.h"
+
 #include <QtCore/QString>
 
 #include <array>
@@ -25,5 +27,11 @@ QString displayName(ItemType type);
 
 /// The name of the symbol that stands for the kind, such as "folder.fill".
 QString systemImage(ItemType type);
+
+/// The colour of that symbol where it has one of its own.
+SystemColor colorOf(ItemType type);
+
+/// What is wrong with an item of the kind that is not valid, such as "not found".
+QString defectName(ItemType type);
 
 }  // namespace lanternix

@@ -56,6 +56,41 @@ TEST_F(SettingsListModelsTest, ABrokenItem_IsDescribedAsSuch) {
             u"File, not found, /nowhere"_s);
 }
 
+TEST_F(SettingsListModelsTest, WhatIsBroken_DependsOnTheType) {
+  ItemListModel model(*state);
+  model.setGroupId(work.id);
+  const auto description = [&](ItemType type, const QString &path) {
+    notes.type = type;
+    notes.path = path;
+    state->updateItem(notes);
+    return model.index(0).data(Qt::AccessibleDescriptionRole).toString();
+  };
+  EXPECT_EQ(description(ItemType::link, u"http://["_s), u"Link, not a valid address, http://["_s);
+  EXPECT_EQ(description(ItemType::command, u" "_s), u"Command, empty command,  "_s);
+  EXPECT_EQ(description(ItemType::command, {}), u"Command, empty command"_s);
+}
+
+TEST_F(SettingsListModelsTest, WhatIsHeard_IsNoLongerThanAnybodyListens) {
+  const QString endless(100'000, u'x');
+  report.name = endless;
+  notes.name = u"two\nlines"_s;
+  notes.path = endless;
+  work.name = endless;
+  state = makeState({work}, {report, notes});
+  GroupListModel groups(*state);
+  ItemListModel items(*state);
+  items.setGroupId(work.id);
+  constexpr qsizetype longest = 1100;
+  const auto heard = [](const QAbstractItemModel &model, int row, int role) {
+    return model.index(row, 0).data(role).toString();
+  };
+  EXPECT_EQ(heard(items, 0, Qt::AccessibleTextRole), u"two lines"_s);
+  EXPECT_LT(heard(items, 0, Qt::AccessibleDescriptionRole).size(), longest);
+  EXPECT_LT(heard(items, 1, Qt::AccessibleTextRole).size(), longest);
+  EXPECT_LT(heard(groups, 0, Qt::AccessibleTextRole).size(), longest);
+  EXPECT_EQ(heard(groups, 0, Qt::DisplayRole), endless);
+}
+
 TEST_F(SettingsListModelsTest, AChangeOfContent_IsNoNewList) {
   GroupListModel groups(*state);
   ItemListModel items(*state);

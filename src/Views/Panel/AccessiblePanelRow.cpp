@@ -5,6 +5,7 @@
 #include "Views/Panel/ItemRowView.h"
 #include "Views/Panel/PanelListModel.h"
 #include "Views/Panel/PanelListView.h"
+#include "Views/Style/SpokenText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,44 +13,9 @@ namespace lanternix {
 
 namespace {
 
-/// \p text without what cannot be spoken, and no longer than anybody would listen to.
-QString spoken(const QString &text) {
-  constexpr qsizetype longest = 1000;
-  QString result = text.left(longest);
-  if (!result.isEmpty() && result.back().isHighSurrogate()) {
-    result.chop(1);
-  }
-  for (QChar &character : result) {
-    if (character.category() == QChar::Other_Control) {
-      character = u' ';
-    }
-  }
-  return result;
-}
-
-QString whatIsBroken(ItemType type) {
-  switch (type) {
-    case ItemType::directory:
-    case ItemType::file:
-      return u"not found"_s;
-    case ItemType::link:
-      return u"not a valid address"_s;
-    case ItemType::command:
-      return u"empty command"_s;
-  }
-  Q_UNREACHABLE();
-}
-
-// What matters most comes first, because listeners cut short what they need no more of.
 QString itemDescription(const AppState &appState, const PathItem &item) {
-  QStringList parts(displayName(item.type));
-  if (!item.isValid()) {
-    parts.append(whatIsBroken(item.type));
-  }
-  if (appState.showURLs() && !item.path.isEmpty()) {
-    parts.append(spoken(ItemRowView::displayPath(item)));
-  }
-  return parts.join(u", "_s);
+  return SpokenText::describing(item,
+                                appState.showURLs() ? ItemRowView::displayPath(item) : QString());
 }
 
 }  // namespace
@@ -117,7 +83,8 @@ QString AccessiblePanelRow::text(QAccessible::Text kind) const {
 }
 
 QString AccessiblePanelRow::name() const {
-  return spoken(model().data(model().index(static_cast<int>(m_row)), Qt::DisplayRole).toString());
+  return SpokenText::of(
+      model().data(model().index(static_cast<int>(m_row)), Qt::DisplayRole).toString());
 }
 
 QString AccessiblePanelRow::description() const {

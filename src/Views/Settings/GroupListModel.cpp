@@ -2,6 +2,7 @@
 
 #include "App/AppState.h"
 #include "Views/Settings/DragPayload.h"
+#include "Views/Style/SpokenText.h"
 
 #include <QtCore/QMimeData>
 
@@ -57,6 +58,8 @@ QVariant GroupListModel::data(const QModelIndex &index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
       return group != nullptr ? group->name : QString();
+    case Qt::AccessibleTextRole:
+      return group != nullptr ? SpokenText::of(group->name) : QString();
     case Qt::AccessibleDescriptionRole:
       return countText(itemCountAt(index.row()));
     case CountRole:

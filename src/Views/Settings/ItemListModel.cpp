@@ -2,6 +2,7 @@
 
 #include "App/AppState.h"
 #include "Views/Settings/DragPayload.h"
+#include "Views/Style/SpokenText.h"
 
 #include <QtCore/QMimeData>
 
@@ -55,9 +56,10 @@ QVariant ItemListModel::data(const QModelIndex &index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
       return item->name;
+    case Qt::AccessibleTextRole:
+      return SpokenText::of(item->name);
     case Qt::AccessibleDescriptionRole:
-      return item->isValid() ? u"%1, %2"_s.arg(displayName(item->type), item->path)
-                             : u"%1, not found, %2"_s.arg(displayName(item->type), item->path);
+      return SpokenText::describing(*item, item->path);
     case PathRole:
       return item->path;
     case TypeRole:

@@ -25,20 +25,6 @@ constexpr float badgeOpacity = 0.1F;
 constexpr double spacing = 10;
 constexpr double lineSpacing = 2;
 
-SystemColor colorOf(ItemType type) {
-  switch (type) {
-    case ItemType::directory:
-      return SystemColor::blue;
-    case ItemType::file:
-      return SystemColor::purple;
-    case ItemType::link:
-      return SystemColor::cyan;
-    case ItemType::command:
-      return SystemColor::orange;
-  }
-  Q_UNREACHABLE();
-}
-
 void paintBadge(QPainter &painter, const QPalette &palette, const QRectF &area, ItemType type) {
   const QColor color = systemColor(colorOf(type), palette);
   painter.setPen(Qt::NoPen);

@@ -43,6 +43,9 @@ class FileManager {
   /// system keeps none. None when the file cannot be examined.
   virtual std::optional<Date> creationDate(const QString &path) const = 0;
 
+  /// How many bytes the file at \p path holds; none when it cannot be examined.
+  virtual std::optional<qint64> fileSize(const QString &path) const = 0;
+
   /// Removes a file. False when it is still there afterwards.
   virtual bool removeItem(const QString &path) = 0;
 };

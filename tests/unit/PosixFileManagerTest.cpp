@@ -279,6 +279,12 @@ TEST_F(PosixFileManagerTest, CreationDate_OfAMissingFile_IsNone) {
   EXPECT_EQ(files.creationDate(path(u"missing"_s)), std::nullopt);
 }
 
+TEST_F(PosixFileManagerTest, FileSize_CountsBytes_AndIsNoneOfAMissingFile) {
+  ASSERT_TRUE(home.write(path(u"file"_s), QByteArray(1234, 'x')));
+  EXPECT_EQ(files.fileSize(path(u"file"_s)), 1234);
+  EXPECT_EQ(files.fileSize(path(u"missing"_s)), std::nullopt);
+}
+
 TEST_F(PosixFileManagerTest, Remove_TakesAFileAndIsContentWithoutOne) {
   ASSERT_TRUE(home.write(path(u"file"_s), "x"));
   EXPECT_TRUE(files.removeItem(path(u"file"_s)));

@@ -11,6 +11,13 @@ namespace {
 
 class DataTabBackupsTest : public DataSettingsTabTest {};
 
+/// Files that are larger than they are.
+class SizedFileManager final : public PosixFileManager {
+ public:
+  std::optional<qint64> size = 5'000'000;
+  std::optional<qint64> fileSize(const QString & /*path*/) const override { return size; }
+};
+
 }  // namespace
 
 TEST_F(DataTabBackupsTest, SavedBackups_AreCountedAndListedNewestFirst) {
@@ -23,6 +30,21 @@ TEST_F(DataTabBackupsTest, SavedBackups_AreCountedAndListedNewestFirst) {
   EXPECT_EQ(all[title + 1], DateText::mediumDateShortTime(backup.date));
   EXPECT_EQ(all[title + 2], backupFiles().first() + u" · "_s +
                                 QLocale::system().formattedDataSize(QFileInfo(backup.url).size()));
+}
+
+TEST_F(DataTabBackupsTest, TheSize_IsWhatTheFileManagerTells) {
+  SizedFileManager files;
+  const QString name = backupFiles().first();
+  state = std::make_unique<AppState>(
+      Doors{files, userDefaults, hotkeyRegistrar, workspace, processLauncher, clock});
+  show();
+  EXPECT_TRUE(
+      texts(*tab).contains(name + u" · "_s + QLocale::system().formattedDataSize(*files.size)));
+  files.size.reset();
+  show();
+  EXPECT_TRUE(texts(*tab).contains(name)) << "without a size";
+  tab.reset();
+  state.reset();  // before its files
 }
 
 TEST_F(DataTabBackupsTest, CreateBackup_PutsTheNewOneOnTopAndSaysSo) {

@@ -1,5 +1,7 @@
 #include "views/DataSettingsTabTest.h"
 
+#include <QtCore/QStandardPaths>
+
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
@@ -21,7 +23,8 @@ TEST_F(DataTabExchangeTest, Export_ProposesANameAndJsonFiles) {
   const FileChooser::Request &request = fileChooser.requests.first();
   EXPECT_EQ(request.kind, FileChooser::Kind::fileToReplace);
   EXPECT_EQ(QFileInfo(request.start).fileName(), u"Lanternix-Backup.json"_s);
-  EXPECT_TRUE(QFileInfo(request.start).dir().exists());
+  EXPECT_EQ(QFileInfo(request.start).path(),
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   EXPECT_EQ(request.nameFilters, QStringList{u"JSON Files (*.json)"_s});
 }
 

@@ -67,6 +67,14 @@ TEST_F(DesktopFileChooserTest, APathThatLeadsNowhere_StartsAtHome) {
   }
 }
 
+TEST_F(DesktopFileChooserTest, AFileToBeWrittenNowhere_IsProposedAtHome) {
+  const QFileDialog *dialog = ask({.kind = FileChooser::Kind::fileToReplace,
+                                   .title = u"Export"_s,
+                                   .nameFilters = {},
+                                   .start = u"/no/such/place/Lanternix-Backup.json"_s});
+  EXPECT_EQ(dialog->selectedFiles(), QStringList{QDir::homePath() + u"/Lanternix-Backup.json"_s});
+}
+
 TEST_F(DesktopFileChooserTest, Cancelling_ChoosesNothing) {
   QFileDialog *dialog =
       ask({.kind = FileChooser::Kind::file, .title = u"Choose"_s, .nameFilters = {}, .start = {}});

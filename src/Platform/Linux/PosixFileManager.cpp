@@ -131,6 +131,12 @@ std::optional<Date> PosixFileManager::creationDate(const QString &path) const {
   return date;
 }
 
+std::optional<qint64> PosixFileManager::fileSize(const QString &path) const {
+  struct stat status {};
+  return stat(nativePath(path).constData(), &status) == 0 ? std::optional<qint64>(status.st_size)
+                                                          : std::nullopt;
+}
+
 bool PosixFileManager::removeItem(const QString &path) {
   return unlink(nativePath(path).constData()) == 0 || errno == ENOENT;
 }

@@ -19,6 +19,7 @@ class PosixFileManager : public FileManager {
   bool write(QByteArrayView bytes, const QString &path) override;
   std::optional<QStringList> contentsOfDirectory(const QString &path) const override;
   std::optional<Date> creationDate(const QString &path) const override;
+  std::optional<qint64> fileSize(const QString &path) const override;
   bool removeItem(const QString &path) override;
 };
 

@@ -4,7 +4,6 @@
 #include "Views/Style/DisplayText.h"
 #include "Views/Style/TextLabel.h"
 
-#include <QtCore/QFileInfo>
 #include <QtCore/QLocale>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
@@ -17,23 +16,20 @@ namespace lanternix {
 namespace {
 
 /// The name, and the size unless the file is gone.
-QString fileText(const BackupInfo &backup) {
-  const QFileInfo file(backup.url);
-  const QString name = DisplayText::singleLine(file.fileName());
-  if (!file.exists()) {
-    return name;
-  }
-  return name + u" · "_s + QLocale::system().formattedDataSize(file.size());
+QString fileText(const QString &path, std::optional<qint64> size) {
+  const QString name = DisplayText::singleLine(path.sliced(path.lastIndexOf(u'/') + 1));
+  return size.has_value() ? name + u" · "_s + QLocale::system().formattedDataSize(*size) : name;
 }
 
 }  // namespace
 
-BackupRowView::BackupRowView(const BackupInfo &backup, QWidget *parent) : QWidget(parent) {
+BackupRowView::BackupRowView(const BackupInfo &backup, std::optional<qint64> size, QWidget *parent)
+    : QWidget(parent) {
   const QString date = DateText::mediumDateShortTime(backup.date);
   auto *texts = new QVBoxLayout;
   texts->setSpacing(2);
   texts->addWidget(new TextLabel(date, TextStyle::body, QFont::Medium, FillStyle::primary, this));
-  auto *file = new TextLabel(fileText(backup), TextStyle::caption2, QFont::Normal,
+  auto *file = new TextLabel(fileText(backup.url, size), TextStyle::caption2, QFont::Normal,
                              FillStyle::secondary, this);
   // A name may be long; the button stays in sight.
   file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -4,6 +4,8 @@
 
 #include <QtWidgets/QWidget>
 
+#include <optional>
+
 namespace lanternix {
 
 /// A backup in the list of those that can be restored: when it was made, its file and its size.
@@ -11,7 +13,8 @@ class BackupRowView : public QWidget {
   Q_OBJECT
 
  public:
-  explicit BackupRowView(const BackupInfo &backup, QWidget *parent = nullptr);
+  /// \p size is that of the file, in bytes; none when it is gone.
+  BackupRowView(const BackupInfo &backup, std::optional<qint64> size, QWidget *parent = nullptr);
 
  Q_SIGNALS:
   void restoreRequested();

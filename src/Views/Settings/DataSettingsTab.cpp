@@ -9,8 +9,6 @@
 #include "Views/Settings/BackupRowView.h"
 #include "Views/Style/TextLabel.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QFileInfo>
 #include <QtCore/QStandardPaths>
 #include <QtWidgets/QPushButton>
 
@@ -30,8 +28,7 @@ QStringList jsonFilters() {
 }
 
 QString documentsDirectory() {
-  const QString path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-  return QFileInfo(path).isDir() ? path : QDir::homePath();
+  return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
 TextLabel *makeFigure() {
@@ -167,7 +164,8 @@ void DataSettingsTab::loadBackups() {
   m_savedBackups->hide();  // or each row would lay out all those before it anew
   m_savedBackups->clear();
   for (const BackupInfo &backup : backups) {
-    auto *row = new BackupRowView(backup, m_savedBackups);
+    auto *row =
+        new BackupRowView(backup, m_appState.fileManager().fileSize(backup.url), m_savedBackups);
     connect(row, &BackupRowView::restoreRequested, this,
             [this, backup] { confirmRestore(backup); });
     m_savedBackups->addRow(row);

@@ -31,16 +31,16 @@ void setKind(QFileDialog &dialog, FileChooser::Kind kind) {
 
 void setStart(QFileDialog &dialog, const FileChooser::Request &request) {
   const QFileInfo start(request.start);
-  if (request.start.isEmpty() || !start.isAbsolute()) {
-    dialog.setDirectory(QDir::homePath());
-  } else if (start.isDir()) {
+  if (start.isAbsolute() && start.isDir()) {
     dialog.setDirectory(request.start);
-  } else if (start.dir().exists() &&
-             (start.exists() || request.kind == FileChooser::Kind::fileToReplace)) {
-    dialog.setDirectory(start.dir());
+    return;
+  }
+  const bool isToBeWritten = request.kind == FileChooser::Kind::fileToReplace;
+  const bool leadsSomewhere =
+      start.isAbsolute() && (isToBeWritten ? start.dir().exists() : start.exists());
+  dialog.setDirectory(leadsSomewhere ? start.dir() : QDir::home());
+  if (leadsSomewhere || isToBeWritten) {
     dialog.selectFile(start.fileName());
-  } else {
-    dialog.setDirectory(QDir::homePath());
   }
 }
 

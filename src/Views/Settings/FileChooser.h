@@ -24,7 +24,7 @@ class FileChooser {
     /// Such as "JSON Files (*.json)"; empty lets every file be chosen.
     QStringList nameFilters;
     /// What is proposed: a directory to start in, or a path whose last part is the proposed name.
-    /// Where it leads nowhere, choosing starts at home.
+    /// Where it leads nowhere, choosing starts at home; a file to be written keeps its name there.
     QString start;
   };
 

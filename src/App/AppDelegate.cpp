@@ -101,7 +101,7 @@ void AppDelegate::openSettings() {
     m_appState.hidePanel();
   }
   if (!m_settings) {
-    m_settings = std::make_unique<SettingsView>(m_appState, m_loginItem);
+    m_settings = std::make_unique<SettingsView>(m_appState, m_loginItem, m_fileChooser);
   }
   m_settings->present();
   m_windowSystem.activate(*m_settings->windowHandle());

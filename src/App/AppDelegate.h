@@ -1,6 +1,7 @@
 #pragma once
 
 #include "App/AppState.h"
+#include "Views/Settings/DesktopFileChooser.h"
 
 #include <QtCore/QObject>
 #include <QtCore/QRect>
@@ -57,6 +58,7 @@ class AppDelegate : public QObject {
   AppState m_appState;
   std::unique_ptr<FloatingPanel> m_panel;
   std::unique_ptr<LocalKeyMonitor> m_keyMonitor;
+  DesktopFileChooser m_fileChooser;
   /// Made when it is first opened.
   std::unique_ptr<SettingsView> m_settings;
 };

@@ -119,12 +119,12 @@ std::vector<SettingsPicture> alerts() {
       {u"alert-export"_s, u"recent"_s,
        [](SettingsStage &stage) {
          stage.showTab(dataTab);
-         stage.exchange(u"Export..."_s);
+         stage.click(u"Export..."_s);
        }},
       {u"alert-import"_s, u"recent"_s,
        [](SettingsStage &stage) {
          stage.showTab(dataTab);
-         stage.exchange(u"Import..."_s);
+         stage.click(u"Import..."_s);
        }},
       {u"alert-backup"_s, u"recent"_s,
        [](SettingsStage &stage) {

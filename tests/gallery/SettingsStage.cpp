@@ -1,6 +1,5 @@
 #include "gallery/SettingsStage.h"
 
-#include "Views/Settings/DataSettingsTab.h"
 #include "Views/Settings/SettingsTabStrip.h"
 #include "gallery/PanelScene.h"
 #include "support/HarnessError.h"
@@ -13,7 +12,6 @@
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QListView>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QPushButton>
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QScrollBar>
 
@@ -44,7 +42,9 @@ SettingsStage::SettingsStage(const QString &scene) {
   m_store.writeData(content.groups, content.items);
   writeBackups();
   m_state = m_store.makeState();
-  m_window = std::make_unique<SettingsView>(*m_state, m_loginItem);
+  m_fileChooser.answer = m_store.home.root() + u"/Exported.json"_s;
+  TemporaryHome::write(*m_fileChooser.answer, *TemporaryHome::read(m_store.home.dataFile()));
+  m_window = std::make_unique<SettingsView>(*m_state, m_loginItem, m_fileChooser);
   m_window->move(40, 40);
   m_window->present();
   QCoreApplication::processEvents();
@@ -118,19 +118,6 @@ void SettingsStage::choose(const QString &entry) {
 
 void SettingsStage::click(const QString &name) {
   button(name).click();
-  QCoreApplication::processEvents();
-}
-
-// The window's own tab would ask the desktop for a file, so a hidden one beside it acts.
-void SettingsStage::exchange(const QString &button) {
-  m_fileChooser.answer = m_store.home.root() + u"/Exported.json"_s;
-  TemporaryHome::write(*m_fileChooser.answer, *TemporaryHome::read(m_store.home.dataFile()));
-  auto *tab = new DataSettingsTab(*m_state, m_window.get(), m_fileChooser);
-  for (auto *each : tab->findChildren<QPushButton *>()) {
-    if (each->text() == button) {
-      each->click();
-    }
-  }
   QCoreApplication::processEvents();
 }
 

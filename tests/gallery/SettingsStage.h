@@ -15,6 +15,7 @@ class QListView;
 namespace lanternix {
 
 /// The settings over a store with files of its own, and the hand that works them for a picture.
+/// Wherever a file is to be chosen, an exported one is chosen at once.
 class SettingsStage {
  public:
   /// \p scene is one of PanelScene's.
@@ -30,8 +31,6 @@ class SettingsStage {
   void choose(const QString &entry);
   /// Clicks the button that is labelled, or called, so.
   void click(const QString &name);
-  /// Exports or imports, with a file that is chosen at once.
-  void exchange(const QString &button);
   /// Puts the keyboard there as the Tab key does.
   void focus(const QString &name);
   /// Brings the end of the tab into sight.

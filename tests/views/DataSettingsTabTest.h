@@ -19,7 +19,7 @@ class DataSettingsTabTest : public FormTest {
 
   /// Shows the tab over the store as it is.
   void show() {
-    tab = std::make_unique<DataSettingsTab>(*state, nullptr, fileChooser);
+    tab = std::make_unique<DataSettingsTab>(*state, fileChooser);
     tab->resize(600, 480);
     present(*tab);
   }

@@ -11,13 +11,13 @@ namespace {
 
 class DesktopFileChooserTest : public FormTest {
  protected:
+  DesktopFileChooser chooser;
   QWidget window;
   QStringList chosen;
 
   QFileDialog *ask(const FileChooser::Request &request) {
     present(window);
-    DesktopFileChooser::shared().choose(request, &window,
-                                        [this](const QString &path) { chosen.append(path); });
+    chooser.choose(request, &window, [this](const QString &path) { chosen.append(path); });
     return window.findChild<QFileDialog *>();
   }
 };

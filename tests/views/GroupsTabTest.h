@@ -5,6 +5,7 @@
 #include "Views/Settings/GroupSidebarView.h"
 #include "Views/Settings/GroupsSettingsTab.h"
 #include "Views/Settings/ItemListView.h"
+#include "support/FakeFileChooser.h"
 #include "views/ViewTest.h"
 
 #include <QtGui/QContextMenuEvent>
@@ -24,7 +25,7 @@ class GroupsTabTest : public ViewTest {
   void show(const QList<PathGroup> &groups, const QList<PathItem> &items) {
     tab.reset();
     state = makeState(groups, items);
-    tab = std::make_unique<GroupsSettingsTab>(*state);
+    tab = std::make_unique<GroupsSettingsTab>(*state, fileChooser);
     tab->resize(600, 480);
     tab->show();
     tab->activateWindow();
@@ -153,6 +154,7 @@ class GroupsTabTest : public ViewTest {
   PathItem notes = item(QStringLiteral("Notes"), work, 1);
   PathItem plan = item(QStringLiteral("Plan"), work, 2);
   PathItem garden = item(QStringLiteral("Garden"), home_, 0);
+  FakeFileChooser fileChooser;
   std::unique_ptr<AppState> state;
   std::unique_ptr<GroupsSettingsTab> tab;
 };

@@ -20,7 +20,7 @@ class ItemEditorViewTest : public FormTest {
 
   ItemEditorView *open(const std::optional<PathItem> &item, const std::optional<QUuid> &groupId) {
     present(window);
-    auto *editor = new ItemEditorView(*state, item, groupId, &window, fileChooser);
+    auto *editor = new ItemEditorView(*state, fileChooser, item, groupId, &window);
     editor->open();
     activate(*editor);
     return editor;

@@ -9,6 +9,7 @@
 #include "Views/Settings/ShortcutRecorderView.h"
 #include "Views/Style/Contrast.h"
 #include "Views/Style/Palettes.h"
+#include "support/FakeFileChooser.h"
 #include "views/ViewTest.h"
 
 #include <QtGui/QAccessible>
@@ -16,6 +17,7 @@
 #include <QtGui/QWindow>
 #include <QtTest/QTest>
 #include <QtWidgets/QApplication>
+#include <QtWidgets/QPushButton>
 
 namespace lanternix {
 
@@ -28,7 +30,7 @@ class SettingsViewTest : public ViewTest {
   void SetUp() override {
     SettingsAccessibility::install();
     state = makeState();
-    view = std::make_unique<SettingsView>(*state, loginItem);
+    view = std::make_unique<SettingsView>(*state, loginItem, fileChooser);
     strip = view->findChild<SettingsTabStrip *>();
     view->present();
     ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
@@ -45,6 +47,7 @@ class SettingsViewTest : public ViewTest {
   }
 
   NullLoginItem loginItem;
+  FakeFileChooser fileChooser;
   std::unique_ptr<AppState> state;
   std::unique_ptr<SettingsView> view;
   SettingsTabStrip *strip = nullptr;
@@ -55,6 +58,17 @@ class SettingsViewTest : public ViewTest {
 TEST_F(SettingsViewTest, IsAnOrdinaryWindowWithItsTitle) {
   EXPECT_EQ(view->windowTitle(), u"Lanternix Settings"_s);
   EXPECT_EQ(view->windowType(), Qt::Window);
+}
+
+TEST_F(SettingsViewTest, Files_AreChosenByTheChooserThatItWasGiven) {
+  constexpr int dataTab = 2;
+  strip->setCurrentIndex(dataTab);
+  for (auto *each : view->findChildren<QPushButton *>()) {
+    if (each->text() == u"Import..."_s) {
+      each->click();
+    }
+  }
+  EXPECT_EQ(fileChooser.requests.size(), 1);
 }
 
 TEST_F(SettingsViewTest, IsNeverSmallerThan600By480) {

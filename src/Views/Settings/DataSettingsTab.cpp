@@ -7,6 +7,7 @@
 #include "Views/Controls/FormSection.h"
 #include "Views/Controls/Stepper.h"
 #include "Views/Settings/BackupRowView.h"
+#include "Views/Settings/FileChooser.h"
 #include "Views/Style/TextLabel.h"
 
 #include <QtCore/QStandardPaths>
@@ -41,7 +42,7 @@ qsizetype count(const QList<PathItem> &items, ItemType type) {
 
 }  // namespace
 
-DataSettingsTab::DataSettingsTab(AppState &appState, QWidget *parent, FileChooser &fileChooser)
+DataSettingsTab::DataSettingsTab(AppState &appState, FileChooser &fileChooser, QWidget *parent)
     : FormView(parent),
       m_appState(appState),
       m_fileChooser(fileChooser),

@@ -2,11 +2,11 @@
 
 #include "Services/BackupInfo.h"
 #include "Views/Controls/FormView.h"
-#include "Views/Settings/DesktopFileChooser.h"
 
 namespace lanternix {
 
 class AppState;
+class FileChooser;
 class Stepper;
 class TextLabel;
 
@@ -19,8 +19,7 @@ class DataSettingsTab : public FormView {
 
  public:
   /// \p fileChooser answers for the files of export and import.
-  explicit DataSettingsTab(AppState &appState, QWidget *parent = nullptr,
-                           FileChooser &fileChooser = DesktopFileChooser::shared());
+  DataSettingsTab(AppState &appState, FileChooser &fileChooser, QWidget *parent = nullptr);
 
  protected:
   void showEvent(QShowEvent *event) override;

@@ -46,11 +46,6 @@ void setStart(QFileDialog &dialog, const FileChooser::Request &request) {
 
 }  // namespace
 
-DesktopFileChooser &DesktopFileChooser::shared() {
-  static DesktopFileChooser chooser;
-  return chooser;
-}
-
 void DesktopFileChooser::choose(const Request &request, QWidget *window, const Chosen &chosen) {
   auto *dialog = new QFileDialog(window, request.title);
   dialog->setAttribute(Qt::WA_DeleteOnClose);

@@ -50,9 +50,10 @@ ListPlaceholder *makePlaceholder(QWidget *parent) {
 
 }  // namespace
 
-GroupsSettingsTab::GroupsSettingsTab(AppState &appState, QWidget *parent)
+GroupsSettingsTab::GroupsSettingsTab(AppState &appState, FileChooser &fileChooser, QWidget *parent)
     : QWidget(parent),
       m_appState(appState),
+      m_fileChooser(fileChooser),
       m_sidebar(new GroupSidebarView(appState, this)),
       m_pages(new QStackedWidget(this)),
       m_detail(new GroupDetailView(appState, m_pages)) {
@@ -151,13 +152,13 @@ void GroupsSettingsTab::showGroupMenu(const QUuid &id, const QPoint &position) {
 
 void GroupsSettingsTab::addItem() {
   // Deletes itself when it closes.
-  (new ItemEditorView(m_appState, {}, selectedGroupId(), window()))->open();
+  (new ItemEditorView(m_appState, m_fileChooser, {}, selectedGroupId(), window()))->open();
 }
 
 void GroupsSettingsTab::editItem(const QUuid &id) {
   if (const PathItem *item = m_appState.itemWithId(id)) {
     // Deletes itself when it closes.
-    (new ItemEditorView(m_appState, *item, selectedGroupId(), window()))->open();
+    (new ItemEditorView(m_appState, m_fileChooser, *item, selectedGroupId(), window()))->open();
   }
 }
 

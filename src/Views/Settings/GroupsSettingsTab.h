@@ -10,6 +10,7 @@ class QStackedWidget;
 namespace lanternix {
 
 class AppState;
+class FileChooser;
 class GroupDetailView;
 class GroupSidebarView;
 
@@ -19,7 +20,8 @@ class GroupsSettingsTab : public QWidget {
   Q_OBJECT
 
  public:
-  explicit GroupsSettingsTab(AppState &appState, QWidget *parent = nullptr);
+  /// \p fileChooser answers for the paths of items.
+  GroupsSettingsTab(AppState &appState, FileChooser &fileChooser, QWidget *parent = nullptr);
 
   /// None also when the group that was selected no longer exists.
   const std::optional<QUuid> &selectedGroupId() const;
@@ -43,6 +45,7 @@ class GroupsSettingsTab : public QWidget {
   void showItemMenu(const QUuid &id, const QPoint &position);
 
   AppState &m_appState;
+  FileChooser &m_fileChooser;
   GroupSidebarView *m_sidebar;
   QStackedWidget *m_pages;
   GroupDetailView *m_detail;

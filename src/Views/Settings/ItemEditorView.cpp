@@ -5,11 +5,11 @@
 #include "Views/Controls/FormSection.h"
 #include "Views/Controls/FormView.h"
 #include "Views/Controls/TextField.h"
+#include "Views/Settings/FileChooser.h"
 #include "Views/Settings/GroupPicker.h"
 #include "Views/Style/SymbolIcon.h"
 #include "Views/Style/TextLabel.h"
 
-#include <QtCore/QFileInfo>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
@@ -70,14 +70,14 @@ QString lastComponent(const QString &path) {
 
 }  // namespace
 
-ItemEditorView::ItemEditorView(AppState &appState, std::optional<PathItem> editingItem,
-                               std::optional<QUuid> preselectedGroupId, QWidget *window,
-                               FileChooser &fileChooser)
+ItemEditorView::ItemEditorView(AppState &appState, FileChooser &fileChooser,
+                               std::optional<PathItem> editingItem,
+                               std::optional<QUuid> preselectedGroupId, QWidget *window)
     : SheetDialog(editingItem ? u"Edit Item"_s : u"New Item"_s,
                   editingItem ? u"Save"_s : u"Add Item"_s, sheetSize, window),
       m_appState(appState),
-      m_editingItem(std::move(editingItem)),
       m_fileChooser(fileChooser),
+      m_editingItem(std::move(editingItem)),
       m_selectedType(m_editingItem ? m_editingItem->type : ItemType::directory),
       m_name(new TextField(u"Name"_s, this)),
       m_pathTitle(makeTitle({})),

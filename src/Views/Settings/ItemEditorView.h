@@ -2,7 +2,6 @@
 
 #include "Models/PathItem.h"
 #include "Views/Controls/SheetDialog.h"
-#include "Views/Settings/DesktopFileChooser.h"
 
 #include <optional>
 
@@ -12,6 +11,7 @@ class QPushButton;
 namespace lanternix {
 
 class AppState;
+class FileChooser;
 class FormSection;
 class GroupPicker;
 class TextField;
@@ -24,9 +24,8 @@ class ItemEditorView : public SheetDialog {
  public:
   /// Without \p editingItem the sheet makes a new item, in the group with \p preselectedGroupId
   /// unless the user chooses another. \p fileChooser answers "Browse...".
-  ItemEditorView(AppState &appState, std::optional<PathItem> editingItem,
-                 std::optional<QUuid> preselectedGroupId, QWidget *window,
-                 FileChooser &fileChooser = DesktopFileChooser::shared());
+  ItemEditorView(AppState &appState, FileChooser &fileChooser, std::optional<PathItem> editingItem,
+                 std::optional<QUuid> preselectedGroupId, QWidget *window);
 
  private:
   void addTypeRow(FormSection &section);
@@ -39,8 +38,8 @@ class ItemEditorView : public SheetDialog {
   void save();
 
   AppState &m_appState;
-  std::optional<PathItem> m_editingItem;
   FileChooser &m_fileChooser;
+  std::optional<PathItem> m_editingItem;
   ItemType m_selectedType;
   TextField *m_name;
   QLabel *m_pathTitle;

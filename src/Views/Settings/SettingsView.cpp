@@ -35,7 +35,7 @@ QPoint onAScreen(QPoint position, int width) {
 
 }  // namespace
 
-SettingsView::SettingsView(AppState &appState, LoginItem &loginItem)
+SettingsView::SettingsView(AppState &appState, LoginItem &loginItem, FileChooser &fileChooser)
     : m_strip(new SettingsTabStrip(this)), m_tabs(new QStackedWidget(this)) {
   setWindowTitle(u"Lanternix Settings"_s);
   setMinimumSize(smallestSize);
@@ -49,13 +49,15 @@ SettingsView::SettingsView(AppState &appState, LoginItem &loginItem)
   layout->addWidget(new DividerLine(this));
   layout->addWidget(m_tabs, 1);
 
-  addTab(u"folder"_s, u"Groups"_s,
-         [&appState](QWidget *parent) { return new GroupsSettingsTab(appState, parent); });
+  addTab(u"folder"_s, u"Groups"_s, [&appState, &fileChooser](QWidget *parent) {
+    return new GroupsSettingsTab(appState, fileChooser, parent);
+  });
   addTab(u"gear"_s, u"Settings"_s, [&appState, &loginItem](QWidget *parent) {
     return new GeneralSettingsTab(appState, loginItem, parent);
   });
-  addTab(u"externaldrive"_s, u"Data"_s,
-         [&appState](QWidget *parent) { return new DataSettingsTab(appState, parent); });
+  addTab(u"externaldrive"_s, u"Data"_s, [&appState, &fileChooser](QWidget *parent) {
+    return new DataSettingsTab(appState, fileChooser, parent);
+  });
   addTab(u"info.circle"_s, u"About"_s, [](QWidget *parent) { return new AboutTab(parent); });
   connect(m_strip, &QTabBar::currentChanged, this, &SettingsView::showTab);
   showTab(0);

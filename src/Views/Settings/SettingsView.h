@@ -11,6 +11,7 @@ class QStackedWidget;
 namespace lanternix {
 
 class AppState;
+class FileChooser;
 class LoginItem;
 class SettingsTabStrip;
 
@@ -20,7 +21,8 @@ class SettingsView : public QWidget {
   Q_OBJECT
 
  public:
-  SettingsView(AppState &appState, LoginItem &loginItem);
+  /// \p fileChooser answers wherever a file is to be chosen.
+  SettingsView(AppState &appState, LoginItem &loginItem, FileChooser &fileChooser);
 
   /// Shows the window, or raises it, and asks for the keyboard. Only in answer to an action of the
   /// user.

@@ -15,7 +15,7 @@ class FakeFileChooser final : public FileChooser {
   /// All that was asked.
   QList<Request> requests;
 
-  void choose(const Request &request, QWidget * /*window*/, const Chosen &chosen) override {
+  void choose(const Request &request, QWidget * /*owner*/, const Chosen &chosen) override {
     requests.append(request);
     if (answer.has_value()) {
       chosen(*answer);

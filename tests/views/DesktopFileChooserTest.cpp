@@ -1,7 +1,10 @@
 #include "Views/Settings/DesktopFileChooser.h"
 #include "views/FormTest.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QFileDialog>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -73,6 +76,22 @@ TEST_F(DesktopFileChooserTest, AFileToBeWrittenNowhere_IsProposedAtHome) {
                                    .nameFilters = {},
                                    .start = u"/no/such/place/Lanternix-Backup.json"_s});
   EXPECT_EQ(dialog->selectedFiles(), QStringList{QDir::homePath() + u"/Lanternix-Backup.json"_s});
+}
+
+TEST_F(DesktopFileChooserTest, AnOwnerThatEndsFirst_IsNotTold) {
+  present(window);
+  const QString file = home.root() + u"/notes.txt"_s;
+  TemporaryHome::write(file, "x");
+  auto owner = std::make_unique<QWidget>(&window);
+  chooser.choose(
+      {.kind = FileChooser::Kind::file, .title = u"Choose"_s, .nameFilters = {}, .start = file},
+      owner.get(), [this](const QString &path) { chosen.append(path); });
+  const QPointer<QFileDialog> dialog = window.findChild<QFileDialog *>();
+  owner.reset();
+  ASSERT_TRUE(dialog) << "over the window, which is still there";
+  dialog->selectFile(file);
+  static_cast<QDialog *>(dialog.data())->accept();
+  EXPECT_EQ(chosen, QStringList());
 }
 
 TEST_F(DesktopFileChooserTest, Cancelling_ChoosesNothing) {

@@ -115,9 +115,9 @@ void DataSettingsTab::exportData() {
                                      .title = u"Export Data"_s,
                                      .nameFilters = jsonFilters(),
                                      .start = documentsDirectory() + u"/Lanternix-Backup.json"_s};
-  m_fileChooser.choose(request, window(), [this, bytes = *bytes](const QString &path) {
+  m_fileChooser.choose(request, this, [this, bytes = *bytes](const QString &path) {
     m_appState.fileManager().write(bytes, path);
-    Alert{.title = u"Export Successful"_s, .message = {}, .destructiveAction = {}}.show(window());
+    Alert{.title = u"Export Successful"_s, .message = {}, .destructiveAction = {}}.show(this);
   });
 }
 
@@ -126,7 +126,7 @@ void DataSettingsTab::importData() {
                                      .title = u"Import Data"_s,
                                      .nameFilters = jsonFilters(),
                                      .start = documentsDirectory()};
-  m_fileChooser.choose(request, window(), [this](const QString &path) { importFile(path); });
+  m_fileChooser.choose(request, this, [this](const QString &path) { importFile(path); });
 }
 
 void DataSettingsTab::importFile(const QString &path) {
@@ -138,7 +138,7 @@ void DataSettingsTab::importFile(const QString &path) {
   Alert{.title = u"Import Successful"_s,
         .message = u"Your data has been restored successfully."_s,
         .destructiveAction = {}}
-      .show(window());
+      .show(this);
 }
 
 // --- Backups ------------------------------------------------------------------------------------
@@ -156,7 +156,7 @@ void DataSettingsTab::createBackup() {
   Alert{.title = u"Backup Created"_s,
         .message = u"A backup snapshot has been saved."_s,
         .destructiveAction = {}}
-      .show(window());
+      .show(this);
 }
 
 void DataSettingsTab::loadBackups() {
@@ -180,7 +180,7 @@ void DataSettingsTab::confirmRestore(const BackupInfo &backup) {
             u"This will replace your current data with the backup from %1. This cannot be "
             "undone."_s.arg(DateText::mediumDateShortTime(backup.date)),
         .destructiveAction = u"Restore"_s}
-      .show(window(), [this, backup] { m_appState.restoreFromBackup(backup); });
+      .show(this, [this, backup] { m_appState.restoreFromBackup(backup); });
 }
 
 // --- Statistics ---------------------------------------------------------------------------------

@@ -46,8 +46,8 @@ void setStart(QFileDialog &dialog, const FileChooser::Request &request) {
 
 }  // namespace
 
-void DesktopFileChooser::choose(const Request &request, QWidget *window, const Chosen &chosen) {
-  auto *dialog = new QFileDialog(window, request.title);
+void DesktopFileChooser::choose(const Request &request, QWidget *owner, const Chosen &chosen) {
+  auto *dialog = new QFileDialog(owner->window(), request.title);
   dialog->setAttribute(Qt::WA_DeleteOnClose);
   dialog->setWindowModality(Qt::WindowModal);
   dialog->setSupportedSchemes({u"file"_s});
@@ -56,7 +56,7 @@ void DesktopFileChooser::choose(const Request &request, QWidget *window, const C
     dialog->setNameFilters(request.nameFilters);
   }
   setStart(*dialog, request);
-  QObject::connect(dialog, &QFileDialog::fileSelected, window, [chosen](const QString &path) {
+  QObject::connect(dialog, &QFileDialog::fileSelected, owner, [chosen](const QString &path) {
     if (!path.isEmpty()) {
       chosen(path);
     }

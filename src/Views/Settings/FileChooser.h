@@ -33,9 +33,9 @@ class FileChooser {
 
   virtual ~FileChooser() = default;
 
-  /// Asks over \p window and returns. \p chosen is called at most once: never when the user cancels
-  /// or \p window ends first.
-  virtual void choose(const Request &request, QWidget *window, const Chosen &chosen) = 0;
+  /// Asks over the window of \p owner and returns. \p chosen is called at most once: never when the
+  /// user cancels or \p owner ends first.
+  virtual void choose(const Request &request, QWidget *owner, const Chosen &chosen) = 0;
 };
 
 }  // namespace lanternix

@@ -13,7 +13,6 @@
 #include "Views/Settings/PaneSplitter.h"
 #include "Views/Style/DisplayText.h"
 
-#include <QtCore/QPointer>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QStackedWidget>
@@ -124,11 +123,7 @@ void GroupsSettingsTab::askToDeleteGroup(const QUuid &id) {
   Alert{.title = deletionTitle(group->name),
         .message = message.arg(count).arg(count == 1 ? u"item"_s : u"items"_s),
         .destructiveAction = u"Delete Group"_s}
-      .show(window(), [tab = QPointer(this), id] {
-        if (GroupsSettingsTab *present = tab.data()) {
-          present->deleteGroup(id);
-        }
-      });
+      .show(this, [this, id] { deleteGroup(id); });
 }
 
 void GroupsSettingsTab::deleteGroup(const QUuid &id) {
@@ -170,11 +165,7 @@ void GroupsSettingsTab::askToDeleteItem(const QUuid &id) {
   Alert{.title = deletionTitle(item->name),
         .message = u"This item will be permanently removed."_s,
         .destructiveAction = u"Delete Item"_s}
-      .show(window(), [tab = QPointer(this), id] {
-        if (GroupsSettingsTab *present = tab.data()) {
-          present->deleteItem(id);
-        }
-      });
+      .show(this, [this, id] { deleteItem(id); });
 }
 
 void GroupsSettingsTab::deleteItem(const QUuid &id) {

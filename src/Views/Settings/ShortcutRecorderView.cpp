@@ -150,8 +150,9 @@ void ShortcutRecorderView::changeEvent(QEvent *event) {
   QAbstractButton::changeEvent(event);
 }
 
-void ShortcutRecorderView::hideEvent(QHideEvent * /*event*/) {
+void ShortcutRecorderView::hideEvent(QHideEvent *event) {
   stopRecording();
+  QAbstractButton::hideEvent(event);
 }
 
 void ShortcutRecorderView::updateLabel() {

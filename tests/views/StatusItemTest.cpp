@@ -8,6 +8,8 @@
 namespace lanternix {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 /// A tray that a test puts up itself.
 class FakeSystemTray final : public SystemTray {
  public:
@@ -59,6 +61,23 @@ TEST_F(StatusItemTest, TrayThatGoesAndComes_FindsTheSameItem) {
   tray.become(SystemTray::Kind::none);
   tray.become(SystemTray::Kind::drawing);
   EXPECT_EQ(menus(), 2);
+}
+
+TEST_F(StatusItemTest, TrayOfAnotherKind_IsToldOfInTheLog) {
+  const StatusItem item(*state, tray);
+  tray.become(SystemTray::Kind::embedding);
+  tray.become(SystemTray::Kind::none);
+  static QStringList log;
+  const QtMessageHandler usual =
+      qInstallMessageHandler([](QtMsgType, const QMessageLogContext &context, const QString &) {
+        log.append(QString::fromLatin1(context.category));
+      });
+  tray.become(SystemTray::Kind::embedding);
+  EXPECT_FALSE(log.contains(u"lanternix.tray"_s));
+  tray.become(SystemTray::Kind::drawing);
+  qInstallMessageHandler(usual);
+  EXPECT_EQ(log.count(u"lanternix.tray"_s), 1);
+  EXPECT_EQ(menus(), 1);
 }
 
 TEST_F(StatusItemTest, Quit_IsAskedForByEitherMenu) {

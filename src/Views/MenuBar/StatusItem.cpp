@@ -1,10 +1,10 @@
 #include "Views/MenuBar/StatusItem.h"
 
-#include "Platform/SystemTray.h"
 #include "Views/MenuBar/StatusIcon.h"
 #include "Views/Style/Palettes.h"
 
 #include <QtCore/QEvent>
+#include <QtCore/QLoggingCategory>
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPalette>
@@ -12,6 +12,12 @@
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
+
+namespace {
+
+Q_LOGGING_CATEGORY(statusItem, "lanternix.tray", QtWarningMsg)
+
+}  // namespace
 
 StatusItem::StatusItem(AppState &appState, const SystemTray &systemTray, QObject *parent)
     : QObject(parent), m_appState(appState), m_systemTray(systemTray) {
@@ -24,9 +30,16 @@ StatusItem::StatusItem(AppState &appState, const SystemTray &systemTray, QObject
 /// when the tray is started anew.
 void StatusItem::showWhereThereIsATray() {
   const SystemTray::Kind kind = m_systemTray.kind();
-  if (m_icon || kind == SystemTray::Kind::none) {
+  if (kind == SystemTray::Kind::none) {
     return;
   }
+  if (m_icon) {
+    if (kind != m_kind) {
+      qCWarning(statusItem) << "The icon will be in the tray of another kind after a new start";
+    }
+    return;
+  }
+  m_kind = kind;
   m_menu = makeMenu(MenuBarView::DrawnBy::program);
   m_menu->installEventFilter(this);
   m_icon = std::make_unique<QSystemTrayIcon>(icon());

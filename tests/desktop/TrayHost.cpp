@@ -77,6 +77,12 @@ void TrayHost::beginToShow() {
       QDBusMessage::createSignal(watcherPath, watcherName, u"StatusNotifierHostRegistered"_s));
 }
 
+void TrayHost::endToShow() {
+  m_hasHost = false;
+  m_connection.send(
+      QDBusMessage::createSignal(watcherPath, watcherName, u"StatusNotifierHostUnregistered"_s));
+}
+
 bool TrayHost::hasItem() const {
   return waitUntil([this] { return !m_items.isEmpty(); });
 }
@@ -162,6 +168,7 @@ QString TrayHost::introspect(const QString & /*path*/) const {
     <method name="RegisterStatusNotifierItem"><arg name="service" type="s" direction="in"/></method>
     <property name="IsStatusNotifierHostRegistered" type="b" access="read"/>
     <signal name="StatusNotifierHostRegistered"/>
+    <signal name="StatusNotifierHostUnregistered"/>
   </interface>)"_s;
 }
 

@@ -33,8 +33,9 @@ class TrayHost : public QDBusVirtualObject {
   explicit TrayHost(const QString &busAddress, Shows shows = Shows::items);
   ~TrayHost() override;
 
-  /// A host comes, and the watcher says so.
+  /// A host comes, or goes, and the watcher says so.
   void beginToShow();
+  void endToShow();
 
   /// Where the items have told of themselves, in that order.
   const QStringList &items() const { return m_items; }

@@ -23,8 +23,10 @@ StatusNotifierHost::StatusNotifierHost(const QDBusConnection &bus)
   connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, this,
           [this] { setPresence(Presence::absent); });
   // From every sender, because naming the service here would wait for the bus to tell its owner.
-  m_bus.connect(QString(), objectPath, serviceName, u"StatusNotifierHostRegistered"_s, this,
-                SLOT(ask()));
+  for (const QString &signal :
+       {u"StatusNotifierHostRegistered"_s, u"StatusNotifierHostUnregistered"_s}) {
+    m_bus.connect(QString(), objectPath, serviceName, signal, this, SLOT(ask()));
+  }
   ask();
 }
 

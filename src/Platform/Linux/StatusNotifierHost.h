@@ -7,7 +7,8 @@
 namespace lanternix {
 
 /// Whether somebody on the session bus shows status notifier items. Asks the watcher of those items
-/// once, and again whenever one comes or says that it has found a host; in between nothing is sent.
+/// once, and again whenever one comes or says that a host has come or gone; in between nothing is
+/// sent.
 class StatusNotifierHost : public QObject {
   Q_OBJECT
 

@@ -95,8 +95,7 @@ TEST_F(GroupsTabMenuTest, AnItemThatGoesWhileItsMenuIsOpen_DoesNoHarm) {
   show();
   for (const QString &entry : {u"Edit Item..."_s, u"Duplicate"_s, u"Delete Item"_s}) {
     QMenu *menu = openItemMenu(0);
-    state->deleteItem(
-        tab->findChild<ItemListView *>()->model()->index(0, 0).data(Qt::UserRole).toUuid());
+    state->deleteItem(itemList().model()->index(0, 0).data(Qt::UserRole).toUuid());
     const qsizetype left = state->items().size();
     choose(*menu, entry);
     EXPECT_EQ(state->items().size(), left);

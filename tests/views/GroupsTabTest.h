@@ -4,7 +4,6 @@
 #include "Views/Settings/GroupListView.h"
 #include "Views/Settings/GroupSidebarView.h"
 #include "Views/Settings/GroupsSettingsTab.h"
-#include "Views/Settings/ItemListView.h"
 #include "support/FakeFileChooser.h"
 #include "views/ViewTest.h"
 
@@ -34,7 +33,7 @@ class GroupsTabTest : public ViewTest {
   void show() { show({work, home_}, {report, notes, plan, garden}); }
 
   GroupListView &groupList() const { return *tab->findChild<GroupListView *>(); }
-  ItemListView &itemList() const { return *tab->findChild<ItemListView *>(); }
+  RecordListView &itemList() const { return tab->findChild<GroupDetailView *>()->list(); }
   QAbstractButton &button(const QString &name) const {
     for (auto *each : tab->findChildren<QAbstractButton *>()) {
       if (each->accessibleName() == name || each->text() == name) {

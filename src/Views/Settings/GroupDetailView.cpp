@@ -3,8 +3,9 @@
 #include "App/AppState.h"
 #include "Views/Settings/GroupListModel.h"
 #include "Views/Settings/ItemListModel.h"
-#include "Views/Settings/ItemListView.h"
+#include "Views/Settings/ItemRowDelegate.h"
 #include "Views/Settings/ListPlaceholder.h"
+#include "Views/Settings/RecordListView.h"
 #include "Views/Style/DisplayText.h"
 #include "Views/Style/DividerLine.h"
 #include "Views/Style/Symbol.h"
@@ -44,12 +45,13 @@ GroupDetailView::GroupDetailView(AppState &appState, QWidget *parent)
     : QWidget(parent),
       m_appState(appState),
       m_model(new ItemListModel(appState, this)),
-      m_list(new ItemListView(*m_model, this)),
+      m_list(new RecordListView(*m_model, u"Items"_s, this)),
       m_pages(new QStackedWidget(this)),
       m_icon(new SymbolLabel({}, TextStyle::title2, &accentColor, this)),
       m_name(makeLine(TextStyle::body, FillStyle::primary, this)),
       m_count(makeLine(TextStyle::caption, FillStyle::secondary, this)),
       m_add(new QPushButton(u"Add Item"_s, this)) {
+  m_list->setItemDelegate(new ItemRowDelegate(*m_model, *m_list));  // which is its parent
   m_pages->addWidget(m_list);
   m_pages->addWidget(new ListPlaceholder({.symbol = u"tray"_s,
                                           .symbolSide = 36,

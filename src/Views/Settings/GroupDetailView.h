@@ -12,7 +12,7 @@ namespace lanternix {
 
 class AppState;
 class ItemListModel;
-class ItemListView;
+class RecordListView;
 class SymbolLabel;
 class TextLabel;
 
@@ -27,7 +27,7 @@ class GroupDetailView : public QWidget {
   /// No item is selected afterwards.
   void setGroupId(const std::optional<QUuid> &id);
 
-  ItemListView &list() { return *m_list; }
+  RecordListView &list() { return *m_list; }
 
  Q_SIGNALS:
   void itemRequested();
@@ -42,7 +42,7 @@ class GroupDetailView : public QWidget {
 
   AppState &m_appState;
   ItemListModel *m_model;
-  ItemListView *m_list;
+  RecordListView *m_list;
   QStackedWidget *m_pages;
   SymbolLabel *m_icon;
   TextLabel *m_name;

@@ -35,10 +35,7 @@ void GroupListModel::readGroups() {
 }
 
 const PathGroup *GroupListModel::groupAt(qsizetype row) const {
-  // Between a change of the store and the news of it a row may point past the end.
-  const qsizetype position = row >= 0 && row < rows().size() ? rows()[row].position : -1;
-  return position >= 0 && position < m_appState.groups().size() ? &m_appState.groups()[position]
-                                                                : nullptr;
+  return recordAt(row, m_appState.groups());
 }
 
 qsizetype GroupListModel::itemCountAt(qsizetype row) const {
@@ -75,14 +72,12 @@ QHash<int, QByteArray> GroupListModel::roleNames() const {
   return names;
 }
 
-QMimeData *GroupListModel::mimeData(const QModelIndexList &indexes) const {
-  const std::optional<QUuid> id = indexes.isEmpty() ? std::nullopt : idAt(indexes.front().row());
-  return id.has_value() ? DragPayload::forGroup(*id).release() : nullptr;
+std::unique_ptr<QMimeData> GroupListModel::payloadFor(const QUuid &id) const {
+  return DragPayload::forGroup(id);
 }
 
-int GroupListModel::draggedRow(const QMimeData &data) const {
-  const std::optional<QUuid> id = DragPayload::groupId(data);
-  return id.has_value() ? rowOf(*id) : -1;
+std::optional<QUuid> GroupListModel::draggedId(const QMimeData &data) const {
+  return DragPayload::groupId(data);
 }
 
 void GroupListModel::moveRow(int row, int destination) {

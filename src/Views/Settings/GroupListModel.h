@@ -20,8 +20,6 @@ class GroupListModel : public RecordListModel {
 
   QVariant data(const QModelIndex &index, int role) const override;
   QHash<int, QByteArray> roleNames() const override;
-  QMimeData *mimeData(const QModelIndexList &indexes) const override;
-  int draggedRow(const QMimeData &data) const override;
   void moveRow(int row, int destination) override;
 
   /// Null where there is no row.
@@ -30,6 +28,10 @@ class GroupListModel : public RecordListModel {
 
   /// How many items there are, in words.
   static QString countText(qsizetype count);
+
+ protected:
+  std::unique_ptr<QMimeData> payloadFor(const QUuid &id) const override;
+  std::optional<QUuid> draggedId(const QMimeData &data) const override;
 
  private:
   void readGroups();

@@ -7,7 +7,6 @@
 #include "Views/Settings/GroupListView.h"
 #include "Views/Settings/GroupSidebarView.h"
 #include "Views/Settings/ItemEditorView.h"
-#include "Views/Settings/ItemListView.h"
 #include "Views/Settings/ItemRowMenu.h"
 #include "Views/Settings/ListPlaceholder.h"
 #include "Views/Settings/PaneSplitter.h"
@@ -82,7 +81,7 @@ void GroupsSettingsTab::connectSidebar() {
 }
 
 void GroupsSettingsTab::connectDetail() {
-  ItemListView *list = &m_detail->list();
+  RecordListView *list = &m_detail->list();
   connect(list, &RecordListView::menuRequested, this, &GroupsSettingsTab::showItemMenu);
   connect(list, &RecordListView::editRequested, this, &GroupsSettingsTab::editItem);
   connect(list, &RecordListView::deletionRequested, this, &GroupsSettingsTab::askToDeleteItem);

@@ -39,10 +39,7 @@ void ItemListModel::readItems() {
 }
 
 const PathItem *ItemListModel::itemAt(qsizetype row) const {
-  // Between a change of the store and the news of it a row may point past the end.
-  const qsizetype position = row >= 0 && row < rows().size() ? rows()[row].position : -1;
-  return position >= 0 && position < m_appState.items().size() ? &m_appState.items()[position]
-                                                               : nullptr;
+  return recordAt(row, m_appState.items());
 }
 
 QVariant ItemListModel::data(const QModelIndex &index, int role) const {
@@ -76,14 +73,12 @@ QHash<int, QByteArray> ItemListModel::roleNames() const {
   return names;
 }
 
-QMimeData *ItemListModel::mimeData(const QModelIndexList &indexes) const {
-  const std::optional<QUuid> id = indexes.isEmpty() ? std::nullopt : idAt(indexes.front().row());
-  return id.has_value() ? DragPayload::forItem(*id).release() : nullptr;
+std::unique_ptr<QMimeData> ItemListModel::payloadFor(const QUuid &id) const {
+  return DragPayload::forItem(id);
 }
 
-int ItemListModel::draggedRow(const QMimeData &data) const {
-  const std::optional<QUuid> id = DragPayload::itemId(data);
-  return id.has_value() ? rowOf(*id) : -1;
+std::optional<QUuid> ItemListModel::draggedId(const QMimeData &data) const {
+  return DragPayload::itemId(data);
 }
 
 QList<qsizetype> ItemListModel::positionsOfWholeGroup() const {

@@ -21,8 +21,6 @@ class ItemListModel : public RecordListModel {
 
   QVariant data(const QModelIndex &index, int role) const override;
   QHash<int, QByteArray> roleNames() const override;
-  QMimeData *mimeData(const QModelIndexList &indexes) const override;
-  int draggedRow(const QMimeData &data) const override;
   void moveRow(int row, int destination) override;
 
   /// None: no rows.
@@ -31,6 +29,10 @@ class ItemListModel : public RecordListModel {
 
   /// Null where there is no row.
   const PathItem *itemAt(qsizetype row) const;
+
+ protected:
+  std::unique_ptr<QMimeData> payloadFor(const QUuid &id) const override;
+  std::optional<QUuid> draggedId(const QMimeData &data) const override;
 
  private:
   void readItems();

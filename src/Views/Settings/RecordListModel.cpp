@@ -1,5 +1,7 @@
 #include "Views/Settings/RecordListModel.h"
 
+#include <QtCore/QMimeData>
+
 #include <algorithm>
 #include <utility>
 
@@ -29,6 +31,16 @@ Qt::ItemFlags RecordListModel::flags(const QModelIndex &index) const {
 
 Qt::DropActions RecordListModel::supportedDragActions() const {
   return Qt::CopyAction | Qt::MoveAction;
+}
+
+QMimeData *RecordListModel::mimeData(const QModelIndexList &indexes) const {
+  const std::optional<QUuid> id = indexes.isEmpty() ? std::nullopt : idAt(indexes.front().row());
+  return id.has_value() ? payloadFor(*id).release() : nullptr;
+}
+
+int RecordListModel::draggedRow(const QMimeData &data) const {
+  const std::optional<QUuid> id = draggedId(data);
+  return id.has_value() ? rowOf(*id) : -1;
 }
 
 std::optional<QUuid> RecordListModel::idAt(qsizetype row) const {

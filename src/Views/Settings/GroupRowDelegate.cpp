@@ -9,34 +9,22 @@
 
 namespace lanternix {
 
-namespace {
-
-constexpr double iconWidth = 22;
-constexpr double spacing = 10;
-constexpr double lineSpacing = 1;
-
-}  // namespace
-
 GroupRowDelegate::GroupRowDelegate(const GroupListModel &model, RecordListView &view)
-    : RecordRowDelegate(view), m_model(model) {}
+    : RecordRowDelegate({.pictureWidth = 22, .lineSpacing = 1}, view), m_model(model) {}
 
-double GroupRowDelegate::contentHeight() const {
-  return linesHeight(lineSpacing);
-}
-
-void GroupRowDelegate::paintContent(QPainter &painter, const Inks &inks, const QRectF &area,
-                                    qsizetype row) const {
+std::optional<RecordRowDelegate::Lines> GroupRowDelegate::linesOf(qsizetype row) const {
   const PathGroup *group = m_model.groupAt(row);
   if (group == nullptr) {
-    return;
+    return {};
   }
-  Symbol::draw(painter, QRectF(area.left(), area.top(), iconWidth, area.height()), group->iconName,
-               Symbol::sideFor(textFont(TextStyle::body)),
-               systemColor(group->color(), inks.palette));
-  paintLines(painter, inks, area.adjusted(iconWidth + spacing, 0, 0, 0),
-             {.name = group->name,
-              .caption = GroupListModel::countText(m_model.itemCountAt(row)),
-              .spacing = lineSpacing});
+  return Lines{.name = group->name, .caption = GroupListModel::countText(m_model.itemCountAt(row))};
+}
+
+void GroupRowDelegate::paintPicture(QPainter &painter, const QPalette &palette, const QRectF &area,
+                                    qsizetype row) const {
+  const PathGroup &group = *m_model.groupAt(row);
+  Symbol::draw(painter, area, group.iconName, Symbol::sideFor(textFont(TextStyle::body)),
+               systemColor(group.color(), palette));
 }
 
 }  // namespace lanternix

@@ -15,8 +15,8 @@ class GroupRowDelegate : public RecordRowDelegate {
   GroupRowDelegate(const GroupListModel &model, RecordListView &view);
 
  protected:
-  double contentHeight() const override;
-  void paintContent(QPainter &painter, const Inks &inks, const QRectF &area,
+  std::optional<Lines> linesOf(qsizetype row) const override;
+  void paintPicture(QPainter &painter, const QPalette &palette, const QRectF &area,
                     qsizetype row) const override;
 
  private:

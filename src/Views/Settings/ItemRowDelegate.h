@@ -16,8 +16,8 @@ class ItemRowDelegate : public RecordRowDelegate {
   ItemRowDelegate(const ItemListModel &model, RecordListView &view);
 
  protected:
-  double contentHeight() const override;
-  void paintContent(QPainter &painter, const Inks &inks, const QRectF &area,
+  std::optional<Lines> linesOf(qsizetype row) const override;
+  void paintPicture(QPainter &painter, const QPalette &palette, const QRectF &area,
                     qsizetype row) const override;
 
  private:

@@ -1,5 +1,6 @@
 #include "Views/Settings/RecordRowDelegate.h"
 
+#include "Models/SystemColor.h"
 #include "Views/Settings/RecordListModel.h"
 #include "Views/Settings/RecordListView.h"
 #include "Views/Style/Contrast.h"
@@ -11,6 +12,7 @@
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +26,7 @@ constexpr double groundRadius = 6;
 constexpr double sidePadding = 10;  // within the ground
 constexpr double linePadding = 2;
 constexpr double listPadding = 4;  // of the ground, above and below what the row holds
-constexpr double handleSpacing = 10;
+constexpr double spacing = 10;
 
 QFont nameFont() {
   return textFont(TextStyle::body, QFont::Medium);
@@ -32,6 +34,14 @@ QFont nameFont() {
 
 QFont captionFont() {
   return textFont(TextStyle::caption);
+}
+
+/// Draws a symbol as high as the caption at the end of \p area, which ends before it then.
+void paintSymbolAtEnd(QPainter &painter, QRectF &area, const QString &name, const QColor &color) {
+  const double side = Symbol::sideFor(captionFont());
+  Symbol::draw(painter, QRectF(area.right() - side, area.top(), side, area.height()), name, side,
+               color);
+  area.setRight(area.right() - side - spacing);
 }
 
 void paintLine(QPainter &painter, const QRectF &area, const QFont &font, const QColor &color,
@@ -44,8 +54,8 @@ void paintLine(QPainter &painter, const QRectF &area, const QFont &font, const Q
 
 }  // namespace
 
-RecordRowDelegate::RecordRowDelegate(RecordListView &view)
-    : QStyledItemDelegate(&view), m_view(view) {}
+RecordRowDelegate::RecordRowDelegate(const Measures &measures, RecordListView &view)
+    : QStyledItemDelegate(&view), m_measures(measures), m_view(view) {}
 
 QSize RecordRowDelegate::sizeHint(const QStyleOptionViewItem & /*option*/,
                                   const QModelIndex & /*index*/) const {
@@ -60,10 +70,7 @@ void RecordRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
   const Inks inks{option.palette, paintGround(*painter, option, index)};
   QRectF area = option.rect;
   area.adjust(groundInset + sidePadding, 0, -groundInset - sidePadding, 0);
-  const double side = Symbol::sideFor(captionFont());
-  Symbol::draw(*painter, QRectF(area.right() - side, area.top(), side, area.height()),
-               u"line.3.horizontal"_s, side, inks.of(FillStyle::tertiary));
-  area.setRight(area.right() - side - handleSpacing);
+  paintSymbolAtEnd(*painter, area, u"line.3.horizontal"_s, inks.of(FillStyle::tertiary));
   paintContent(*painter, inks, area, index.row());
   painter->restore();
 }
@@ -96,17 +103,42 @@ QColor RecordRowDelegate::paintGround(QPainter &painter, const QStyleOptionViewI
   return ground;
 }
 
-double RecordRowDelegate::linesHeight(double spacing) {
-  return QFontMetricsF(nameFont()).height() + spacing + QFontMetricsF(captionFont()).height();
+void RecordRowDelegate::paintContent(QPainter &painter, const Inks &inks, const QRectF &area,
+                                     qsizetype row) const {
+  const std::optional<Lines> lines = linesOf(row);
+  if (!lines) {
+    return;
+  }
+  QRectF picture(area.topLeft(), QSizeF(m_measures.pictureWidth, area.height()));
+  if (m_measures.pictureHeight > 0) {
+    picture.setHeight(m_measures.pictureHeight);
+    picture.moveTop(std::round(area.center().y() - m_measures.pictureHeight / 2));
+  }
+  paintPicture(painter, inks.palette, picture, row);
+  QRectF text = area.adjusted(m_measures.pictureWidth + spacing, 0, 0, 0);
+  if (lines->hasWarning) {
+    paintSymbolAtEnd(painter, text, u"exclamationmark.triangle.fill"_s,
+                     systemColor(SystemColor::yellow, inks.palette));
+  }
+  paintLines(painter, inks, text, *lines);
+}
+
+double RecordRowDelegate::linesHeight() const {
+  return QFontMetricsF(nameFont()).height() + m_measures.lineSpacing +
+         QFontMetricsF(captionFont()).height();
+}
+
+double RecordRowDelegate::contentHeight() const {
+  return std::max(m_measures.pictureHeight, linesHeight());
 }
 
 void RecordRowDelegate::paintLines(QPainter &painter, const Inks &inks, const QRectF &area,
-                                   const Lines &lines) {
+                                   const Lines &lines) const {
   QRectF line = area;
-  line.setTop(area.center().y() - linesHeight(lines.spacing) / 2);
+  line.setTop(area.center().y() - linesHeight() / 2);
   line.setHeight(QFontMetricsF(nameFont()).height());
   paintLine(painter, line, nameFont(), inks.of(FillStyle::primary), lines.name, Qt::ElideRight);
-  line.moveTop(line.bottom() + lines.spacing);
+  line.moveTop(line.bottom() + m_measures.lineSpacing);
   line.setHeight(QFontMetricsF(captionFont()).height());
   // Numbers and paths run from left to right, in whatever script their parts are.
   painter.setLayoutDirection(Qt::LeftToRight);

@@ -4,7 +4,7 @@
 #include "Views/Settings/GroupListModel.h"
 #include "Views/Settings/ItemListModel.h"
 #include "Views/Settings/ItemRowDelegate.h"
-#include "Views/Settings/ListPlaceholder.h"
+#include "Views/Settings/ListPane.h"
 #include "Views/Settings/RecordListView.h"
 #include "Views/Style/DisplayText.h"
 #include "Views/Style/DividerLine.h"
@@ -16,7 +16,6 @@
 #include <QtCore/QEvent>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -46,26 +45,25 @@ GroupDetailView::GroupDetailView(AppState &appState, QWidget *parent)
       m_appState(appState),
       m_model(new ItemListModel(appState, this)),
       m_list(new RecordListView(*m_model, u"Items"_s, this)),
-      m_pages(new QStackedWidget(this)),
+      m_pane(new ListPane(m_list,
+                          {.symbol = u"tray"_s,
+                           .symbolSide = 36,
+                           .title = u"No items in this group"_s,
+                           .titleStyle = TextStyle::title3,
+                           .hint = u"Add directories, files, or links"_s,
+                           .hintStyle = TextStyle::subheadline},
+                          this)),
       m_icon(new SymbolLabel({}, TextStyle::title2, &accentColor, this)),
       m_name(makeLine(TextStyle::body, FillStyle::primary, this)),
       m_count(makeLine(TextStyle::caption, FillStyle::secondary, this)),
       m_add(new QPushButton(u"Add Item"_s, this)) {
   m_list->setItemDelegate(new ItemRowDelegate(*m_model, *m_list));  // which is its parent
-  m_pages->addWidget(m_list);
-  m_pages->addWidget(new ListPlaceholder({.symbol = u"tray"_s,
-                                          .symbolSide = 36,
-                                          .title = u"No items in this group"_s,
-                                          .titleStyle = TextStyle::title3,
-                                          .hint = u"Add directories, files, or links"_s,
-                                          .hintStyle = TextStyle::subheadline},
-                                         m_pages));
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(makeHeader());
   layout->addWidget(new DividerLine(this));
-  layout->addWidget(m_pages, 1);
+  layout->addWidget(m_pane, 1);
   setTabOrder(m_add, m_list);
 
   connect(m_add, &QAbstractButton::clicked, this, &GroupDetailView::itemRequested);
@@ -127,7 +125,7 @@ void GroupDetailView::showState() {
   });
   m_name->setText(DisplayText::elided(group->name, m_name->font(), Qt::ElideRight, widestName));
   m_count->setText(GroupListModel::countText(m_model->rowCount()));
-  m_pages->setCurrentIndex(m_model->rowCount() == 0 ? 1 : 0);
+  m_pane->setContentShown(m_model->rowCount() > 0);
 }
 
 }  // namespace lanternix

@@ -6,12 +6,12 @@
 #include <optional>
 
 class QPushButton;
-class QStackedWidget;
 
 namespace lanternix {
 
 class AppState;
 class ItemListModel;
+class ListPane;
 class RecordListView;
 class SymbolLabel;
 class TextLabel;
@@ -43,7 +43,7 @@ class GroupDetailView : public QWidget {
   AppState &m_appState;
   ItemListModel *m_model;
   RecordListView *m_list;
-  QStackedWidget *m_pages;
+  ListPane *m_pane;
   SymbolLabel *m_icon;
   TextLabel *m_name;
   TextLabel *m_count;

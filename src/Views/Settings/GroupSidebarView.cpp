@@ -3,12 +3,11 @@
 #include "App/AppState.h"
 #include "Views/Settings/GroupListModel.h"
 #include "Views/Settings/GroupListView.h"
-#include "Views/Settings/ListPlaceholder.h"
+#include "Views/Settings/ListPane.h"
 #include "Views/Style/DividerLine.h"
 #include "Views/Style/SymbolButton.h"
 
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QStackedWidget>
 #include <QtWidgets/QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -38,23 +37,22 @@ GroupSidebarView::GroupSidebarView(AppState &appState, QWidget *parent)
       m_appState(appState),
       m_model(new GroupListModel(appState, this)),
       m_list(new GroupListView(appState, *m_model, this)),
-      m_pages(new QStackedWidget(this)),
+      m_pane(new ListPane(m_list,
+                          {.symbol = u"folder.badge.plus"_s,
+                           .symbolSide = 32,
+                           .title = u"No groups yet"_s,
+                           .titleStyle = TextStyle::subheadline,
+                           .hint = u"Create a group to organize your items"_s,
+                           .hintStyle = TextStyle::caption},
+                          this)),
       m_edit(makeButton(u"pencil"_s, u"Edit Group"_s, this)),
       m_delete(makeButton(u"minus"_s, u"Delete Group"_s, this)) {
   setMinimumWidth(smallestWidth);
   setMaximumWidth(greatestWidth);
-  m_pages->addWidget(m_list);
-  m_pages->addWidget(new ListPlaceholder({.symbol = u"folder.badge.plus"_s,
-                                          .symbolSide = 32,
-                                          .title = u"No groups yet"_s,
-                                          .titleStyle = TextStyle::subheadline,
-                                          .hint = u"Create a group to organize your items"_s,
-                                          .hintStyle = TextStyle::caption},
-                                         m_pages));
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addWidget(m_pages, 1);
+  layout->addWidget(m_pane, 1);
   layout->addWidget(new DividerLine(this));
   layout->addWidget(makeBar());
   resize(idealWidth, height());
@@ -94,7 +92,7 @@ QWidget *GroupSidebarView::makeBar() {
 }
 
 void GroupSidebarView::showState() {
-  m_pages->setCurrentIndex(m_appState.groups().isEmpty() ? 1 : 0);
+  m_pane->setContentShown(!m_appState.groups().isEmpty());
   m_edit->setEnabled(m_list->selectedId().has_value());
   m_delete->setEnabled(m_list->selectedId().has_value());
 }

@@ -2,13 +2,12 @@
 
 #include <QtWidgets/QWidget>
 
-class QStackedWidget;
-
 namespace lanternix {
 
 class AppState;
 class GroupListModel;
 class GroupListView;
+class ListPane;
 class SymbolButton;
 
 /// The pane of the groups: their list, or what to do without any, above a bar of buttons that add,
@@ -33,7 +32,7 @@ class GroupSidebarView : public QWidget {
   AppState &m_appState;
   GroupListModel *m_model;
   GroupListView *m_list;
-  QStackedWidget *m_pages;
+  ListPane *m_pane;
   SymbolButton *m_edit;
   SymbolButton *m_delete;
 };

@@ -8,13 +8,12 @@
 #include "Views/Settings/GroupSidebarView.h"
 #include "Views/Settings/ItemEditorView.h"
 #include "Views/Settings/ItemRowMenu.h"
-#include "Views/Settings/ListPlaceholder.h"
+#include "Views/Settings/ListPane.h"
 #include "Views/Settings/PaneSplitter.h"
 #include "Views/Style/DisplayText.h"
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QMenu>
-#include <QtWidgets/QStackedWidget>
 
 #include <algorithm>
 
@@ -36,16 +35,6 @@ QString deletionTitle(const QString &name) {
   return u"Delete \"%1\"?"_s.arg(DisplayText::singleLine(shown));
 }
 
-ListPlaceholder *makePlaceholder(QWidget *parent) {
-  return new ListPlaceholder({.symbol = u"sidebar.left"_s,
-                              .symbolSide = 36,
-                              .title = u"Select a group"_s,
-                              .titleStyle = TextStyle::body,
-                              .hint = u"Choose a group from the sidebar to manage its items"_s,
-                              .hintStyle = TextStyle::subheadline},
-                             parent);
-}
-
 }  // namespace
 
 GroupsSettingsTab::GroupsSettingsTab(AppState &appState, FileChooser &fileChooser, QWidget *parent)
@@ -53,13 +42,18 @@ GroupsSettingsTab::GroupsSettingsTab(AppState &appState, FileChooser &fileChoose
       m_appState(appState),
       m_fileChooser(fileChooser),
       m_sidebar(new GroupSidebarView(appState, this)),
-      m_pages(new QStackedWidget(this)),
-      m_detail(new GroupDetailView(appState, m_pages)) {
-  m_pages->addWidget(makePlaceholder(m_pages));
-  m_pages->addWidget(m_detail);
+      m_detail(new GroupDetailView(appState, this)),
+      m_pane(new ListPane(m_detail,
+                          {.symbol = u"sidebar.left"_s,
+                           .symbolSide = 36,
+                           .title = u"Select a group"_s,
+                           .titleStyle = TextStyle::body,
+                           .hint = u"Choose a group from the sidebar to manage its items"_s,
+                           .hintStyle = TextStyle::subheadline},
+                          this)) {
   auto *panes = new PaneSplitter(this);
   panes->addWidget(m_sidebar);
-  panes->addWidget(m_pages);
+  panes->addWidget(m_pane);
   panes->setStretchFactor(0, 0);
   panes->setStretchFactor(1, 1);
   panes->setSizes({sidebarWidth, detailWidth});
@@ -98,7 +92,7 @@ const std::optional<QUuid> &GroupsSettingsTab::selectedItemId() const {
 
 void GroupsSettingsTab::showSelectedGroup() {
   m_detail->setGroupId(selectedGroupId());
-  m_pages->setCurrentIndex(selectedGroupId().has_value() ? 1 : 0);
+  m_pane->setContentShown(selectedGroupId().has_value());
 }
 
 void GroupsSettingsTab::addGroup() {

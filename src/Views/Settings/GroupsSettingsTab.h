@@ -5,14 +5,13 @@
 
 #include <optional>
 
-class QStackedWidget;
-
 namespace lanternix {
 
 class AppState;
 class FileChooser;
 class GroupDetailView;
 class GroupSidebarView;
+class ListPane;
 
 /// The page of the settings where groups and their items are made, edited, deleted and put in
 /// order: the groups at the left, the items of the selected one at the right.
@@ -47,8 +46,8 @@ class GroupsSettingsTab : public QWidget {
   AppState &m_appState;
   FileChooser &m_fileChooser;
   GroupSidebarView *m_sidebar;
-  QStackedWidget *m_pages;
   GroupDetailView *m_detail;
+  ListPane *m_pane;
 };
 
 }  // namespace lanternix

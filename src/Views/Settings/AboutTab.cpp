@@ -8,6 +8,8 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QVBoxLayout>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
@@ -52,11 +54,11 @@ AboutTab::AboutTab(QWidget *parent) : QWidget(parent) {
   layout->setSpacing(spacing);
   layout->addStretch();
   layout->addWidget(new Mark(this), 0, Qt::AlignHCenter);
-  auto *name = new QVBoxLayout;
+  auto name = std::make_unique<QVBoxLayout>();
   name->setSpacing(nameSpacing);
   addText(*name, u"Lanternix"_s, TextStyle::largeTitle, QFont::Bold, FillStyle::primary);
   addText(*name, u"Version 1.0.0"_s, TextStyle::subheadline, QFont::Normal, FillStyle::secondary);
-  layout->addLayout(name);
+  layout->addLayout(name.release());
   addText(*layout, u"Quick launcher for directories, files, and links"_s, TextStyle::body,
           QFont::Normal, FillStyle::primary);
   layout->addStretch();

@@ -9,6 +9,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
@@ -26,7 +28,7 @@ QString fileText(const QString &path, std::optional<qint64> size) {
 BackupRowView::BackupRowView(const BackupInfo &backup, std::optional<qint64> size, QWidget *parent)
     : QWidget(parent) {
   const QString date = DateText::mediumDateShortTime(backup.date);
-  auto *texts = new QVBoxLayout;
+  auto texts = std::make_unique<QVBoxLayout>();
   texts->setSpacing(2);
   texts->addWidget(new TextLabel(date, TextStyle::body, QFont::Medium, FillStyle::primary, this));
   auto *file = new TextLabel(fileText(backup.url, size), TextStyle::caption2, QFont::Normal,
@@ -42,7 +44,7 @@ BackupRowView::BackupRowView(const BackupInfo &backup, std::optional<qint64> siz
 
   auto *layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addLayout(texts, 1);
+  layout->addLayout(texts.release(), 1);
   layout->addWidget(restore);
 }
 

@@ -32,8 +32,11 @@ QString documentsDirectory() {
   return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
-TextLabel *makeFigure() {
-  return new TextLabel({}, TextStyle::body, QFont::Normal, FillStyle::secondary);
+/// A row of \p title and the figure that is returned.
+TextLabel *addFigure(FormSection &section, const QString &title) {
+  auto *figure = new TextLabel({}, TextStyle::body, QFont::Normal, FillStyle::secondary, &section);
+  section.addRow(title, {}, figure);
+  return figure;
 }
 
 qsizetype count(const QList<PathItem> &items, ItemType type) {
@@ -43,15 +46,7 @@ qsizetype count(const QList<PathItem> &items, ItemType type) {
 }  // namespace
 
 DataSettingsTab::DataSettingsTab(AppState &appState, FileChooser &fileChooser, QWidget *parent)
-    : FormView(parent),
-      m_appState(appState),
-      m_fileChooser(fileChooser),
-      m_retention(new Stepper(u"Backup Retention"_s, u"day"_s, fewestBackups, mostBackups)),
-      m_groups(makeFigure()),
-      m_items(makeFigure()),
-      m_directories(makeFigure()),
-      m_files(makeFigure()),
-      m_links(makeFigure()) {
+    : FormView(parent), m_appState(appState), m_fileChooser(fileChooser) {
   addExchangeSection();
   addBackupSection();
   m_savedBackups = &addSection(u"Saved Backups (0)"_s);
@@ -60,11 +55,11 @@ DataSettingsTab::DataSettingsTab(AppState &appState, FileChooser &fileChooser, Q
 
 void DataSettingsTab::addExchangeSection() {
   FormSection &section = addSection(u"Export / Import"_s);
-  auto *exportButton = new QPushButton(u"Export..."_s);
+  auto *exportButton = new QPushButton(u"Export..."_s, &section);
   connect(exportButton, &QPushButton::clicked, this, &DataSettingsTab::exportData);
   section.addRow(u"Export Data"_s, u"Save your groups and items as a JSON backup file"_s,
                  exportButton);
-  auto *importButton = new QPushButton(u"Import..."_s);
+  auto *importButton = new QPushButton(u"Import..."_s, &section);
   connect(importButton, &QPushButton::clicked, this, &DataSettingsTab::importData);
   section.addRow(u"Import Data"_s, u"Restore groups and items from a JSON backup file"_s,
                  importButton);
@@ -72,6 +67,7 @@ void DataSettingsTab::addExchangeSection() {
 
 void DataSettingsTab::addBackupSection() {
   FormSection &section = addSection(u"Automatic Backups"_s);
+  m_retention = new Stepper(u"Backup Retention"_s, u"day"_s, fewestBackups, mostBackups, &section);
   const auto readRetention = [this] {
     const QSignalBlocker blocker(m_retention);
     m_retention->setValue(static_cast<int>(
@@ -81,7 +77,7 @@ void DataSettingsTab::addBackupSection() {
   connect(&m_appState, &AppState::backupRetentionDaysChanged, this, readRetention);
   connect(m_retention, &QSpinBox::valueChanged, this, &DataSettingsTab::setRetention);
   section.addRow(u"Backup Retention"_s, u"Number of daily backups to keep"_s, m_retention);
-  auto *createButton = new QPushButton(u"Create Backup"_s);
+  auto *createButton = new QPushButton(u"Create Backup"_s, &section);
   connect(createButton, &QPushButton::clicked, this, &DataSettingsTab::createBackup);
   section.addRow(u"Create Backup Now"_s, u"Manually save a snapshot of current data"_s,
                  createButton);
@@ -89,11 +85,11 @@ void DataSettingsTab::addBackupSection() {
 
 void DataSettingsTab::addStatisticsSection() {
   FormSection &section = addSection(u"Statistics"_s);
-  section.addRow(u"Groups"_s, {}, m_groups);
-  section.addRow(u"Total Items"_s, {}, m_items);
-  section.addRow(u"Directories"_s, {}, m_directories);
-  section.addRow(u"Files"_s, {}, m_files);
-  section.addRow(u"Links"_s, {}, m_links);
+  m_groups = addFigure(section, u"Groups"_s);
+  m_items = addFigure(section, u"Total Items"_s);
+  m_directories = addFigure(section, u"Directories"_s);
+  m_files = addFigure(section, u"Files"_s);
+  m_links = addFigure(section, u"Links"_s);
   connect(&m_appState, &AppState::groupsChanged, this, &DataSettingsTab::updateStatistics);
   connect(&m_appState, &AppState::itemsChanged, this, &DataSettingsTab::updateStatistics);
   updateStatistics();

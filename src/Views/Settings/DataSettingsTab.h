@@ -39,13 +39,13 @@ class DataSettingsTab : public FormView {
 
   AppState &m_appState;
   FileChooser &m_fileChooser;
-  Stepper *m_retention;
-  FormSection *m_savedBackups;
-  TextLabel *m_groups;
-  TextLabel *m_items;
-  TextLabel *m_directories;
-  TextLabel *m_files;
-  TextLabel *m_links;
+  Stepper *m_retention = nullptr;
+  FormSection *m_savedBackups = nullptr;
+  TextLabel *m_groups = nullptr;
+  TextLabel *m_items = nullptr;
+  TextLabel *m_directories = nullptr;
+  TextLabel *m_files = nullptr;
+  TextLabel *m_links = nullptr;
 };
 
 }  // namespace lanternix

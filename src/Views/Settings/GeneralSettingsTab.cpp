@@ -30,13 +30,13 @@ QStringList itemSizeNames() {
   return names;
 }
 
-/// \p control, with its edge in line with those of the controls that have room for a ring.
-QWidget *inLine(QWidget *control) {
+/// A recorder, with its edge in line with those of the controls that have room for a ring.
+QWidget *makeRecorder(HotkeyService &hotkeyService, QWidget *parent) {
   constexpr int ringRoom = 3;
-  auto *place = new QWidget;
+  auto *place = new QWidget(parent);
   auto *layout = new QHBoxLayout(place);
   layout->setContentsMargins(0, 0, ringRoom, 0);
-  layout->addWidget(control);
+  layout->addWidget(new ShortcutRecorderView(hotkeyService, place));
   return place;
 }
 
@@ -49,7 +49,7 @@ struct Switch {
 };
 
 void addSwitch(FormSection &section, AppState &appState, const Switch &preference) {
-  auto *toggle = new ToggleSwitch(preference.title);
+  auto *toggle = new ToggleSwitch(preference.title, &section);
   section.addRow(preference.title, {}, toggle);
   toggle->setChecked((appState.*preference.value)());
   QObject::connect(toggle, &QAbstractButton::clicked, &appState, preference.setValue);
@@ -61,20 +61,16 @@ void addSwitch(FormSection &section, AppState &appState, const Switch &preferenc
 }  // namespace
 
 GeneralSettingsTab::GeneralSettingsTab(AppState &appState, LoginItem &loginItem, QWidget *parent)
-    : FormView(parent),
-      m_appState(appState),
-      m_loginItem(loginItem),
-      m_itemSize(new SegmentedPicker(u"Item Size"_s, itemSizeNames())),
-      m_launchAtLogin(new ToggleSwitch(u"Launch Lanternix at Login"_s)) {
+    : FormView(parent), m_appState(appState), m_loginItem(loginItem) {
   addShortcut();
   addPanelDisplay();
   addStartup();
 }
 
 void GeneralSettingsTab::addShortcut() {
-  addSection(u"Keyboard Shortcut"_s)
-      .addRow(u"Toggle Popup Panel"_s, u"Press to show or hide the quick access panel"_s,
-              inLine(new ShortcutRecorderView(m_appState.hotkeyService())));
+  FormSection &section = addSection(u"Keyboard Shortcut"_s);
+  section.addRow(u"Toggle Popup Panel"_s, u"Press to show or hide the quick access panel"_s,
+                 makeRecorder(m_appState.hotkeyService(), &section));
 }
 
 void GeneralSettingsTab::addPanelDisplay() {
@@ -85,6 +81,7 @@ void GeneralSettingsTab::addPanelDisplay() {
   addSwitch(section, m_appState,
             {u"Show Recent Items"_s, &AppState::showRecentItems, &AppState::setShowRecentItems,
              &AppState::showRecentItemsChanged});
+  m_itemSize = new SegmentedPicker(u"Item Size"_s, itemSizeNames(), &section);
   fitItemSize();
   section.addRow(u"Item Size"_s, u"Control how compact or spacious items appear"_s, m_itemSize);
   connect(m_itemSize, &SegmentedPicker::currentIndexChanged, this, [this](int index) {
@@ -95,7 +92,9 @@ void GeneralSettingsTab::addPanelDisplay() {
 }
 
 void GeneralSettingsTab::addStartup() {
-  addSection(u"Startup"_s).addRow(m_launchAtLogin->accessibleName(), {}, m_launchAtLogin);
+  FormSection &section = addSection(u"Startup"_s);
+  m_launchAtLogin = new ToggleSwitch(u"Launch Lanternix at Login"_s, &section);
+  section.addRow(m_launchAtLogin->accessibleName(), {}, m_launchAtLogin);
   connect(m_launchAtLogin, &QAbstractButton::clicked, this, [this](bool enabled) {
     LoginItemHelper::setEnabled(m_loginItem, enabled);
     readLoginItem();

@@ -31,8 +31,8 @@ class GeneralSettingsTab : public FormView {
 
   AppState &m_appState;
   LoginItem &m_loginItem;
-  SegmentedPicker *m_itemSize;
-  ToggleSwitch *m_launchAtLogin;
+  SegmentedPicker *m_itemSize = nullptr;
+  ToggleSwitch *m_launchAtLogin = nullptr;
 };
 
 }  // namespace lanternix

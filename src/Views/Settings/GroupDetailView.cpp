@@ -18,6 +18,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
@@ -76,7 +78,7 @@ GroupDetailView::GroupDetailView(AppState &appState, QWidget *parent)
 
 QWidget *GroupDetailView::makeHeader() {
   auto *header = new QWidget(this);
-  auto *texts = new QVBoxLayout;
+  auto texts = std::make_unique<QVBoxLayout>();
   texts->setSpacing(lineSpacing);
   texts->addWidget(m_name);
   texts->addWidget(m_count);
@@ -85,7 +87,7 @@ QWidget *GroupDetailView::makeHeader() {
   layout->setContentsMargins(headerSidePadding, headerPadding, headerSidePadding, headerPadding);
   layout->setSpacing(headerSpacing);
   layout->addWidget(m_icon);
-  layout->addLayout(texts, 1);
+  layout->addLayout(texts.release(), 1);
   layout->addWidget(m_add);
   return header;
 }

@@ -111,7 +111,7 @@ void GroupEditorView::addNameSection() {
 }
 
 void GroupEditorView::addIconSection() {
-  auto *grid = new ChoiceGrid(u"Icon"_s, {.narrowestColumn = 36, .cellRadius = 6});
+  auto *grid = new ChoiceGrid(u"Icon"_s, {.narrowestColumn = 36, .cellRadius = 6}, this);
   for (const Choice &choice : iconChoices) {
     grid->addCell(new SymbolCell(choice.name, choice.spoken, grid));
   }
@@ -123,8 +123,8 @@ void GroupEditorView::addIconSection() {
 }
 
 void GroupEditorView::addColorSection() {
-  auto *grid =
-      new ChoiceGrid(u"Color"_s, {.narrowestColumn = 24, .cellRadius = 12, .fillsWidth = false});
+  auto *grid = new ChoiceGrid(u"Color"_s,
+                              {.narrowestColumn = 24, .cellRadius = 12, .fillsWidth = false}, this);
   for (const Choice &choice : colorChoices) {
     grid->addCell(new ColorCell(colorForName(choice.name), choice.spoken, grid));
   }

@@ -15,6 +15,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 
+#include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -26,18 +27,19 @@ namespace {
 constexpr QSize sheetSize{440, 320};
 constexpr int titleWidth = 84;
 
-TextLabel *makeTitle(const QString &text) {
-  auto *title = new TextLabel(text, TextStyle::body, QFont::Normal, FillStyle::primary);
+TextLabel *makeTitle(const QString &text, QWidget *parent) {
+  auto *title = new TextLabel(text, TextStyle::body, QFont::Normal, FillStyle::primary, parent);
   title->setMinimumWidth(titleWidth);
   return title;
 }
 
-/// A row of \p title and what fills the rest of the line.
-QWidget *makeRow(QLabel *title, QWidget *control, QWidget *button = nullptr) {
+/// A row of \p title and what fills the rest of the line. Being taken out of the row's own window
+/// puts the controls of each row behind those of the one before, where the Tab key goes.
+std::unique_ptr<QWidget> makeRow(QLabel *title, QWidget *control, QWidget *button = nullptr) {
   // Readers call a list of choices by its label: its name is the choice itself.
   title->setBuddy(control);
-  auto *row = new QWidget;
-  auto *layout = new QHBoxLayout(row);
+  auto row = std::make_unique<QWidget>();
+  auto *layout = new QHBoxLayout(row.get());
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(title);
   layout->addWidget(control, 1);
@@ -80,7 +82,7 @@ ItemEditorView::ItemEditorView(AppState &appState, FileChooser &fileChooser,
       m_editingItem(std::move(editingItem)),
       m_selectedType(m_editingItem ? m_editingItem->type : ItemType::directory),
       m_name(new TextField(u"Name"_s, this)),
-      m_pathTitle(makeTitle({})),
+      m_pathTitle(makeTitle({}, this)),
       m_path(new TextField({}, this)),
       m_browse(new QPushButton(u"Browse..."_s, this)),
       m_group(new GroupPicker(
@@ -94,9 +96,9 @@ ItemEditorView::ItemEditorView(AppState &appState, FileChooser &fileChooser,
   } else {
     addTypeRow(section);
   }
-  section.addRow(makeRow(makeTitle(u"Name"_s), m_name));
-  section.addRow(makeRow(m_pathTitle, m_path, m_browse));
-  section.addRow(makeRow(makeTitle(u"Group"_s), m_group));
+  section.addRow(makeRow(makeTitle(u"Name"_s, this), m_name).release());
+  section.addRow(makeRow(m_pathTitle, m_path, m_browse).release());
+  section.addRow(makeRow(makeTitle(u"Group"_s, this), m_group).release());
   setSelectedType(m_selectedType);
 
   m_browse->setAutoDefault(false);
@@ -126,7 +128,7 @@ void ItemEditorView::addTypeRow(FormSection &section) {
       m_path->setText(command);
     }
   });
-  section.addRow(makeRow(makeTitle(u"Type"_s), picker));
+  section.addRow(makeRow(makeTitle(u"Type"_s, this), picker).release());
 }
 
 void ItemEditorView::setSelectedType(ItemType type) {

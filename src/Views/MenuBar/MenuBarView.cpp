@@ -14,11 +14,6 @@ namespace {
 
 constexpr double widestLabel = 320;  // logical pixels
 
-/// For menus that the program draws: a doubled "&" stands for itself.
-QString withoutMnemonics(QString text) {
-  return text.replace(u'&', u"&&"_s);
-}
-
 /// For menus that are sent to the desktop. There "_" marks the access key and, doubled, stands for
 /// itself; Qt turns the first "&" into such a mark, unless it is the last character, and no other.
 QString withoutSentMnemonics(QString text) {
@@ -116,8 +111,9 @@ void MenuBarView::open(const QUuid &itemId) {
 }
 
 QString MenuBarView::label(const QString &name) const {
-  const QString line = DisplayText::elided(name, font(), Qt::ElideRight, widestLabel);
-  return m_drawnBy == DrawnBy::program ? withoutMnemonics(line) : withoutSentMnemonics(line);
+  return m_drawnBy == DrawnBy::program
+             ? DisplayText::menuEntry(name, font(), Qt::ElideRight, widestLabel)
+             : withoutSentMnemonics(DisplayText::elided(name, font(), Qt::ElideRight, widestLabel));
 }
 
 }  // namespace lanternix

@@ -17,11 +17,6 @@ namespace {
 
 constexpr double widestName = 300;
 
-/// A name as an entry: a single "&" would underline what follows, a tab begin a shortcut.
-QString entryText(const QString &name, const QFont &font) {
-  return DisplayText::elided(name, font, Qt::ElideMiddle, widestName).replace(u'&', u"&&"_s);
-}
-
 /// The group's symbol in its colour, on the entry under the pointer in that of the text.
 QIcon iconOf(const PathGroup &group, const QWidget &menu) {
   const QPalette &palette = menu.palette();
@@ -73,7 +68,7 @@ void ItemRowMenu::addGroups(const PathItem &item) {
   QMenu *menu = addMenu(u"Move to Group"_s);
   for (const PathGroup *group : others) {
     QAction *action = menu->addAction(
-        entryText(group->name, font()), this,
+        DisplayText::menuEntry(group->name, font(), Qt::ElideMiddle, widestName), this,
         [this, itemId = item.id, groupId = group->id] { m_appState.moveItem(itemId, groupId); });
     action->setIcon(iconOf(*group, *this));
   }

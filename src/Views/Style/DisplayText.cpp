@@ -53,4 +53,8 @@ QString elided(const QString &text, const QFont &font, Qt::TextElideMode mode, d
   return QFontMetricsF(font).elidedText(singleLine(shortened(text, mode)), mode, width);
 }
 
+QString menuEntry(const QString &text, const QFont &font, Qt::TextElideMode mode, double width) {
+  return elided(text, font, mode, width).replace(u'&', QStringLiteral("&&"));
+}
+
 }  // namespace lanternix::DisplayText

@@ -17,6 +17,9 @@ QString singleLine(const QString &text);
 /// go. Takes the same time for a text of any length.
 QString elided(const QString &text, const QFont &font, Qt::TextElideMode mode, double width);
 
+/// The same as an entry of a menu, in which a single "&" would underline what follows it.
+QString menuEntry(const QString &text, const QFont &font, Qt::TextElideMode mode, double width);
+
 }  // namespace DisplayText
 
 }  // namespace lanternix

@@ -144,6 +144,18 @@ TEST_F(GroupsTabKeyboardTest, Tab_GoesFromTheSidebarThroughTheButtonsToTheItems)
 
 TEST_F(GroupsTabKeyboardTest, EveryControl_HasAName) {
   show();
+  click(groupList(), 0);
+  int controls = 0;
+  for (const auto *each : tab->findChildren<QWidget *>()) {
+    if (each->isVisible() && (each->focusPolicy() & Qt::TabFocus) != 0) {
+      const auto *button = qobject_cast<const QAbstractButton *>(each);
+      EXPECT_FALSE(each->accessibleName().isEmpty() &&
+                   (button == nullptr || button->text().isEmpty()))
+          << each->metaObject()->className();
+      ++controls;
+    }
+  }
+  EXPECT_EQ(controls, 6) << "two lists, three buttons below the one and one above the other";
   EXPECT_EQ(groupList().accessibleName(), u"Groups"_s);
   EXPECT_EQ(itemList().accessibleName(), u"Items"_s);
   EXPECT_EQ(groupList().model()->index(0, 0).data(Qt::AccessibleDescriptionRole).toString(),

@@ -27,9 +27,11 @@ class GroupDetailView : public QWidget {
   /// No item is selected afterwards.
   void setGroupId(const std::optional<QUuid> &id);
 
+  /// The items, whose requests are the list's own signals.
   RecordListView &list() { return *m_list; }
 
  Q_SIGNALS:
+  /// A new item is to be made in the group.
   void itemRequested();
 
  protected:

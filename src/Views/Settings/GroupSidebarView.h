@@ -18,10 +18,13 @@ class GroupSidebarView : public QWidget {
  public:
   explicit GroupSidebarView(AppState &appState, QWidget *parent = nullptr);
 
+  /// The groups. What is requested of a row comes through this view's signals, as from its buttons.
   GroupListView &list() { return *m_list; }
 
  Q_SIGNALS:
+  /// A new group is to be made.
   void groupRequested();
+  /// The group with this id is to be edited, or the user to be asked whether it is to be deleted.
   void editRequested(const QUuid &id);
   void deletionRequested(const QUuid &id);
 

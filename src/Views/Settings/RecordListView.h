@@ -39,8 +39,12 @@ class RecordListView : public QListView {
 
  Q_SIGNALS:
   void selectedIdChanged();
+  /// By a key, or by the second press of a run, when the press is done with.
   void editRequested(const QUuid &id);
+  /// Before anybody was asked.
   void deletionRequested(const QUuid &id);
+  /// Of a row, selected or not. \p globalPosition is where the menu's corner belongs, on the
+  /// screen.
   void menuRequested(const QUuid &id, const QPoint &globalPosition);
 
  protected:

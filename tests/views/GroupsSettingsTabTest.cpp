@@ -236,4 +236,12 @@ TEST_F(GroupsSettingsTabTest, ALongNameOfAGroup_LeavesTheWindowAsItIs) {
   EXPECT_EQ(tab->grab().toImage().size(), QSize(600, 480));
 }
 
+TEST_F(GroupsSettingsTabTest, TheSymbolOfAddItem_IsSharpOnEveryScreen) {
+  show();
+  click(groupList(), 0);
+  constexpr double twice = 2;
+  const QSize size = button(u"Add Item"_s).iconSize();
+  EXPECT_EQ(button(u"Add Item"_s).icon().pixmap(size, twice).size(), size * twice);
+}
+
 }  // namespace lanternix

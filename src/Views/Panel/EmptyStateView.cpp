@@ -1,7 +1,7 @@
 #include "Views/Panel/EmptyStateView.h"
 
 #include "Views/Panel/PanelAccessibility.h"
-#include "Views/Style/Symbol.h"
+#include "Views/Style/SymbolIcon.h"
 #include "Views/Style/SymbolLabel.h"
 #include "Views/Style/TextLabel.h"
 
@@ -26,6 +26,7 @@ EmptyStateView::EmptyStateView(QWidget *parent)
   auto *hint = new TextLabel(u"Open Settings to add groups and items"_s, TextStyle::subheadline,
                              QFont::Normal, FillStyle::tertiary, this);
   m_button->setDefault(true);
+  m_button->setIcon(symbolIcon(u"gearshape"_s));
   m_button->setFocusPolicy(Qt::TabFocus);
   updateButton();
   connect(m_button, &QAbstractButton::clicked, this, &EmptyStateView::settingsRequested);
@@ -46,13 +47,10 @@ EmptyStateView::EmptyStateView(QWidget *parent)
 
 void EmptyStateView::updateButton() {
   m_button->setFont(textFont(TextStyle::subheadline, QFont::Medium));
-  m_button->setIcon(QPixmap::fromImage(Symbol::image(u"gearshape"_s, m_button->iconSize().width(),
-                                                     palette().color(QPalette::ButtonText),
-                                                     devicePixelRatioF())));
 }
 
 void EmptyStateView::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) {
+  if (event->type() == QEvent::FontChange) {
     updateButton();
   }
   QWidget::changeEvent(event);

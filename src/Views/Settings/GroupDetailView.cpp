@@ -9,6 +9,7 @@
 #include "Views/Style/DisplayText.h"
 #include "Views/Style/DividerLine.h"
 #include "Views/Style/Symbol.h"
+#include "Views/Style/SymbolIcon.h"
 #include "Views/Style/SymbolLabel.h"
 #include "Views/Style/SystemColors.h"
 #include "Views/Style/TextLabel.h"
@@ -83,6 +84,7 @@ QWidget *GroupDetailView::makeHeader() {
   texts->addWidget(m_name);
   texts->addWidget(m_count);
   m_add->setDefault(true);
+  m_add->setIcon(symbolIcon(u"plus"_s));
   auto *layout = new QHBoxLayout(header);
   layout->setContentsMargins(headerSidePadding, headerPadding, headerSidePadding, headerPadding);
   layout->setSpacing(headerSpacing);
@@ -97,13 +99,10 @@ void GroupDetailView::updateButton() {
   const int side = qRound(Symbol::sideFor(font));
   m_add->setFont(font);
   m_add->setIconSize({side, side});
-  // The button gives it the colour of its text.
-  m_add->setIcon(QPixmap::fromImage(
-      Symbol::image(u"plus"_s, side, palette().color(QPalette::ButtonText), devicePixelRatioF())));
 }
 
 void GroupDetailView::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) {
+  if (event->type() == QEvent::FontChange) {
     updateButton();
   }
   QWidget::changeEvent(event);

@@ -1,10 +1,8 @@
 #include "Views/Settings/ItemRowMenu.h"
 
 #include "App/AppState.h"
-#include "Views/Style/AccentFill.h"
 #include "Views/Style/DisplayText.h"
-#include "Views/Style/Symbol.h"
-#include "Views/Style/SystemColors.h"
+#include "Views/Style/SymbolIcon.h"
 
 #include <algorithm>
 #include <vector>
@@ -16,18 +14,6 @@ namespace lanternix {
 namespace {
 
 constexpr double widestName = 300;
-
-/// The group's symbol in its colour, on the entry under the pointer in that of the text.
-QIcon iconOf(const PathGroup &group, const QWidget &menu) {
-  const QPalette &palette = menu.palette();
-  const auto picture = [&](const QColor &color) {
-    return QPixmap::fromImage(Symbol::image(group.iconName, Symbol::sideFor(menu.font()), color,
-                                            menu.devicePixelRatioF()));
-  };
-  QIcon icon(picture(systemColor(group.color(), palette)));
-  icon.addPixmap(picture(AccentFill::of(palette).text), QIcon::Selected);
-  return icon;
-}
 
 }  // namespace
 
@@ -70,7 +56,7 @@ void ItemRowMenu::addGroups(const PathItem &item) {
     QAction *action = menu->addAction(
         DisplayText::menuEntry(group->name, font(), Qt::ElideMiddle, widestName), this,
         [this, itemId = item.id, groupId = group->id] { m_appState.moveItem(itemId, groupId); });
-    action->setIcon(iconOf(*group, *this));
+    action->setIcon(symbolIcon(group->iconName, group->color()));
   }
 }
 

@@ -3,19 +3,21 @@
 #include "Views/Style/AccentFill.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/Symbol.h"
+#include "Views/Style/SystemColors.h"
 
 #include <QtGui/QGuiApplication>
 #include <QtGui/QIconEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
 
+#include <optional>
 #include <utility>
 
 namespace lanternix {
 
 namespace {
 
-QColor colorFor(QIcon::Mode mode) {
+QColor colorFor(QIcon::Mode mode, std::optional<SystemColor> color) {
   const QPalette palette = QGuiApplication::palette();
   switch (mode) {
     case QIcon::Selected:
@@ -26,17 +28,19 @@ QColor colorFor(QIcon::Mode mode) {
     case QIcon::Active:
       break;
   }
-  return fillColor(FillStyle::primary, palette);
+  return color.has_value() ? systemColor(*color, palette) : fillColor(FillStyle::primary, palette);
 }
 
 /// Draws anew each time, so that no colour is kept that is not the palette's any more.
 class SymbolIconEngine : public QIconEngine {
  public:
-  explicit SymbolIconEngine(QString name) : m_name(std::move(name)) {}
+  SymbolIconEngine(QString name, std::optional<SystemColor> color)
+      : m_name(std::move(name)), m_color(color) {}
 
   void paint(QPainter *painter, const QRect &area, QIcon::Mode mode,
              QIcon::State /*state*/) override {
-    Symbol::draw(*painter, area, m_name, qMin(area.width(), area.height()), colorFor(mode));
+    Symbol::draw(*painter, area, m_name, qMin(area.width(), area.height()),
+                 colorFor(mode, m_color));
   }
 
   QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
@@ -47,16 +51,23 @@ class SymbolIconEngine : public QIconEngine {
     return pixmap;
   }
 
-  QIconEngine *clone() const override { return new SymbolIconEngine(m_name); }  // the icon's
+  QIconEngine *clone() const override {
+    return new SymbolIconEngine(m_name, m_color);
+  }  // the icon's
 
  private:
   QString m_name;
+  std::optional<SystemColor> m_color;
 };
 
 }  // namespace
 
 QIcon symbolIcon(const QString &name) {
-  return QIcon(new SymbolIconEngine(name));  // owned by the icon
+  return QIcon(new SymbolIconEngine(name, {}));  // owned by the icon
+}
+
+QIcon symbolIcon(const QString &name, SystemColor color) {
+  return QIcon(new SymbolIconEngine(name, color));  // owned by the icon
 }
 
 }  // namespace lanternix

@@ -153,14 +153,27 @@ TEST_F(DataFlowTest, Import_BringsTheExportedDataBack) {
   EXPECT_TRUE(becomesStored(u"Work"_s, {u"Report"_s}));
 }
 
-TEST_F(DataFlowTest, AnImportOfRubbish_LeavesTheDataAlone) {
+TEST_F(DataFlowTest, AnImportOfAHundredMegabytesOfRubbish_LeavesTheDataAlone) {
   openData();
   const QString file = session().home().path(u"rubbish.json"_s);
-  ProgramEnvironment::write(file, QByteArray(100'000, '{'));
+  // What is wrong with it comes last.
+  constexpr qsizetype pairs = 50'000'000;
+  ProgramEnvironment::write(file, R"({"rubbish":[)" + QByteArray("1,").repeated(pairs));
   press(u"Import..."_s, u"Import Data"_s);
   answer(file);
   leaveByReturn(u"Import Successful"_s);
   EXPECT_EQ(storedItems(u"Work"_s), QStringList(u"Report"_s));
+  EXPECT_TRUE(program().isRunning());
+}
+
+TEST_F(DataFlowTest, AnExportToAReadOnlyPlace_SaysItIsDoneAllTheSame) {
+  openData();
+  const QByteArray data = *ProgramEnvironment::read(session().home().dataFile());
+  press(u"Export..."_s, u"Export Data"_s);
+  answer(u"/proc/carried.json"_s);  // where not even the system's administrator makes files
+  leaveByReturn(u"Export Successful"_s);
+  EXPECT_FALSE(QFile::exists(u"/proc/carried.json"_s));
+  EXPECT_EQ(ProgramEnvironment::read(session().home().dataFile()), data);
   EXPECT_TRUE(program().isRunning());
 }
 

@@ -1,4 +1,4 @@
-#include "desktop/SettingsFlowTest.h"
+#include "desktop/GroupsDragTest.h"
 
 namespace lanternix {
 namespace {
@@ -7,53 +7,7 @@ using namespace Qt::StringLiterals;
 using State = AccessibilityBus::State;
 
 /// How groups and items are made, ordered and removed.
-class GroupsFlowTest : public SettingsFlowTest {
- protected:
-  /// Two groups, of which the first one's items are in sight.
-  void openTwoGroups() {
-    SampleGroups groups;
-    groups.group(u"Work"_s).link(u"Report"_s, u"https://example.org/1"_s);
-    groups.link(u"Notes"_s, u"https://example.org/2"_s);
-    groups.link(u"Plan"_s, u"https://example.org/3"_s);
-    groups.group(u"Home"_s);
-    openSettings(groups);
-    select(u"Work"_s);
-  }
-
-  bool isDragging() {
-    const XConnection &connection = session().windows().connection();
-    const XReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
-        connection, xcb_get_selection_owner(connection, connection.atom("XdndSelection")),
-        nullptr));
-    return reply && reply->owner != XCB_NONE;
-  }
-  QImage settingsAt(const QRect &area) {
-    const QRect place = session().windows().geometry(settings());
-    return session().windows().grab(settings()).copy(area.translated(-place.topLeft()));
-  }
-  /// Drags from \p from to \p to, and lets go when \p mark, on the screen, has changed.
-  void drag(QPoint from, QPoint to, const QRect &mark) {
-    dragAndHold(from, to, mark);
-    input().releaseButton();
-  }
-  void dragAndHold(QPoint from, QPoint to, const QRect &mark) {
-    int trembling = 0;
-    const auto hover = [&](QPoint place) { input().moveTo(place + QPoint(++trembling % 2, 0)); };
-    const QImage before = settingsAt(mark);
-    input().moveTo(from);
-    input().pressButton();
-    constexpr QPoint beyond(0, 15);
-    require(u"the drag to begin"_s, [&] {
-      hover(from + beyond);
-      return isDragging();
-    });
-    require(u"the target to show itself"_s, [&] {
-      hover(to);
-      program().settle();
-      return settingsAt(mark) != before;
-    });
-  }
-};
+class GroupsFlowTest : public GroupsDragTest {};
 
 TEST_F(GroupsFlowTest, FromAnEmptyPanel_AGroupAndACommandAreMadeAndOpened) {
   start(SampleGroups());
@@ -129,39 +83,26 @@ TEST_F(GroupsFlowTest, ADoubleClick_EditsAndRenamesTheGroup) {
 
 TEST_F(GroupsFlowTest, AnItemDraggedOntoAGroup_MovesThere) {
   openTwoGroups();
-  const QRect item = reader.geometry(row(u"Notes"_s));
-  const QRect group = reader.geometry(row(u"Home"_s));
-  // The picture of the dragged row reaches from the pointer to the right.
-  drag(QPoint(item.left() + 30, item.center().y()), group.center(),
-       QRect(group.left() + 10, group.top() + 4, 30, group.height() - 8));
+  drag(grip(u"Notes"_s), onto(u"Home"_s));
   EXPECT_TRUE(becomesStored(u"Home"_s, {u"Notes"_s}));
   EXPECT_TRUE(becomesStored(u"Work"_s, {u"Report"_s, u"Plan"_s}));
 }
 
 TEST_F(GroupsFlowTest, AnItemDraggedBetweenOthers_GoesThere) {
   openTwoGroups();
-  const QRect item = reader.geometry(row(u"Plan"_s));
-  const QRect other = reader.geometry(row(u"Report"_s));
-  drag(QPoint(item.left() + 30, item.center().y()), other.topLeft() + QPoint(90, 4),
-       QRect(other.left() + 4, other.top(), 30, 5));
+  drag(grip(u"Plan"_s), above(u"Report"_s));
   EXPECT_TRUE(becomesStored(u"Work"_s, {u"Plan"_s, u"Report"_s, u"Notes"_s}));
 }
 
 TEST_F(GroupsFlowTest, AGroupDraggedAboveAnother_GoesThere) {
   openTwoGroups();
-  const QRect group = reader.geometry(row(u"Home"_s));
-  const QRect other = reader.geometry(row(u"Work"_s));
-  drag(QPoint(group.left() + 30, group.center().y()), other.topLeft() + QPoint(90, 4),
-       QRect(other.left() + 4, other.top(), 30, 5));
+  drag(grip(u"Home"_s), above(u"Work"_s));
   EXPECT_TRUE(waitUntil([&] { return storedGroups() == QStringList{u"Home"_s, u"Work"_s}; }));
 }
 
 TEST_F(GroupsFlowTest, Escape_EndsADragAndChangesNothing) {
   openTwoGroups();
-  const QRect item = reader.geometry(row(u"Notes"_s));
-  const QRect group = reader.geometry(row(u"Home"_s));
-  dragAndHold(QPoint(item.left() + 30, item.center().y()), group.center(),
-              QRect(group.left() + 10, group.top() + 4, 30, group.height() - 8));
+  dragAndHold(grip(u"Notes"_s), onto(u"Home"_s));
   input().tap(XK_Escape);
   program().settle();
   input().releaseButton();
@@ -218,26 +159,17 @@ TEST_F(GroupsFlowTest, AKeyboardWithoutAMenuKey_DuplicatesAnItemByItsMenu) {
   EXPECT_TRUE(waitUntil([&] { return storedItems(u"Work"_s).size() == 4; }));
 }
 
-TEST_F(GroupsFlowTest, Escape_KeepsTheItemThatDeleteAskedAbout) {
+TEST_F(GroupsFlowTest, EscapeAndReturn_KeepTheItemThatDeleteAskedAbout) {
   openTwoGroups();
   select(u"Notes"_s);
-  input().tap(XK_Delete);
-  const auto question = dialog(u"Delete \"Notes\"?"_s);
-  input().tap(XK_Escape);
-  requireClosed(question);
-  program().settle();
-  EXPECT_EQ(storedItems(u"Work"_s), (QStringList{u"Report"_s, u"Notes"_s, u"Plan"_s}));
-}
-
-TEST_F(GroupsFlowTest, Return_KeepsTheItemThatDeleteAskedAbout) {
-  openTwoGroups();
-  select(u"Notes"_s);
-  input().tap(XK_Delete);
-  const auto question = dialog(u"Delete \"Notes\"?"_s);
-  input().tap(XK_Return);
-  requireClosed(question);
-  program().settle();
-  EXPECT_EQ(storedItems(u"Work"_s), (QStringList{u"Report"_s, u"Notes"_s, u"Plan"_s}));
+  for (const xcb_keysym_t key : {xcb_keysym_t{XK_Escape}, xcb_keysym_t{XK_Return}}) {
+    input().tap(XK_Delete);
+    const auto question = dialog(u"Delete \"Notes\"?"_s);
+    input().tap(key);
+    requireClosed(question);
+    program().settle();
+    EXPECT_EQ(storedItems(u"Work"_s), (QStringList{u"Report"_s, u"Notes"_s, u"Plan"_s}));
+  }
 }
 
 TEST_F(GroupsFlowTest, TheQuestionsOtherButton_DeletesTheItem) {

@@ -87,6 +87,23 @@ Collection everyday(const QString &home) {
   return collection;
 }
 
+/// Names of people who write at length, and from right to left.
+PanelScene longNames(const QString &home) {
+  Collection collection(home);
+  collection.group(u"Everything that has to do with the move to the new house by the harbour"_s,
+                   u"house"_s, u"orange"_s);
+  collection
+      .directory(u"Plans, letters, permits and all the pictures of the garden before the work"_s,
+                 u"/Documents/New house/Plans and permits/2026/Second version/Final"_s)
+      .missingFile(u"The list of what is still missing, kept by both of us since last summer"_s,
+                   u"/Documents/New house/Lists/What is still missing, second version.txt"_s)
+      .link(u"رسائل العائلة"_s, u"https://mail.example.org/family"_s)
+      .command(u"גיבוי התמונות"_s, u"rsync -a "_s + home + u"/Pictures backup.example.org:"_s);
+  collection.group(u"עבודה"_s, u"briefcase.fill"_s, u"blue"_s)
+      .link(u"לוח משימות"_s, u"https://tracker.example.org/board/17"_s);
+  return collection.scene({}, 2);
+}
+
 PanelScene manyItems(const QString &home) {
   constexpr int groupCount = 100;
   constexpr int itemsPerGroup = 100;
@@ -106,7 +123,8 @@ PanelScene manyItems(const QString &home) {
 }  // namespace
 
 QStringList PanelScene::names() {
-  return {u"recent"_s, u"search"_s, u"scope"_s, u"no-groups"_s, u"no-results"_s, u"many"_s};
+  return {u"recent"_s,     u"search"_s, u"scope"_s,     u"no-groups"_s,
+          u"no-results"_s, u"many"_s,   u"long-names"_s};
 }
 
 PanelScene PanelScene::named(const QString &name, const QString &home) {
@@ -115,6 +133,9 @@ PanelScene PanelScene::named(const QString &name, const QString &home) {
   }
   if (name == u"many"_s) {
     return manyItems(home);
+  }
+  if (name == u"long-names"_s) {
+    return longNames(home);
   }
   const Collection collection = everyday(home);
   if (name == u"search"_s) {

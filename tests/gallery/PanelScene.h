@@ -16,7 +16,7 @@ struct PanelScene {
   /// How often the down arrow is pressed.
   int steps = 0;
 
-  /// Recent items, a search, a scope, no groups, no results, 10,000 items.
+  /// Recent items, a search, a scope, no groups, no results, 10,000 items, long names.
   static QStringList names();
   /// One of them. Its files and folders are made below \p home.
   static PanelScene named(const QString &name, const QString &home);

@@ -1,11 +1,7 @@
-#include "Views/Panel/PanelAccessibility.h"
 #include "Views/Panel/PanelListModel.h"
 #include "Views/Panel/PanelListView.h"
-#include "Views/Panel/PopupPanelView.h"
 #include "support/WaitUntil.h"
-#include "views/ViewTest.h"
-
-#include <QtGui/QAccessible>
+#include "views/AccessiblePanelTest.h"
 
 namespace lanternix {
 
@@ -13,17 +9,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class AccessiblePanelListTest : public ViewTest {
+class AccessiblePanelListTest : public AccessiblePanelTest {
  protected:
-  static void SetUpTestSuite() { PanelAccessibility::install(); }
-
-  void show(const QList<PathGroup> &groups, const QList<PathItem> &items) {
-    state = makeState(groups, items);
-    view = std::make_unique<PopupPanelView>(*state);
-    view->resize(500, 400);
-    view->show();
-  }
-
   PanelListView *listView() const { return view->findChild<PanelListView *>(); }
   QAccessibleInterface *list() const { return QAccessible::queryAccessibleInterface(listView()); }
   /// The interface of the row with this number in the model.
@@ -39,7 +26,6 @@ class AccessiblePanelListTest : public ViewTest {
     }
     return result;
   }
-  static QString nameOf(QAccessibleInterface *about) { return about->text(QAccessible::Name); }
   static QString descriptionOf(QAccessibleInterface *about) {
     return about->text(QAccessible::Description);
   }
@@ -50,11 +36,7 @@ class AccessiblePanelListTest : public ViewTest {
     QCoreApplication::processEvents();
   }
 
-  PathGroup work = group(u"Work"_s);
-  PathItem report = item(u"Report"_s, work, 0, u"make report"_s);
   PathItem notes = item(u"Notes"_s, work, 1, u"edit notes"_s);
-  std::unique_ptr<AppState> state;
-  std::unique_ptr<PopupPanelView> view;
 };
 
 }  // namespace

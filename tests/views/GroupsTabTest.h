@@ -4,8 +4,7 @@
 #include "Views/Settings/GroupListView.h"
 #include "Views/Settings/GroupSidebarView.h"
 #include "Views/Settings/GroupsSettingsTab.h"
-#include "support/FakeFileChooser.h"
-#include "views/ViewTest.h"
+#include "views/FormTest.h"
 
 #include <QtGui/QContextMenuEvent>
 #include <QtTest/QTest>
@@ -19,7 +18,7 @@ namespace lanternix {
 
 /// The tab in a window of its own, as large as the settings are at least, over a store with two
 /// groups.
-class GroupsTabTest : public ViewTest {
+class GroupsTabTest : public FormTest {
  protected:
   void show(const QList<PathGroup> &groups, const QList<PathItem> &items) {
     tab.reset();
@@ -81,14 +80,7 @@ class GroupsTabTest : public ViewTest {
   }
 
   /// The sheet or alert over the window; null without one.
-  QDialog *dialog() const {
-    for (auto *each : tab->findChildren<QDialog *>()) {
-      if (each->isVisible()) {
-        return each;
-      }
-    }
-    return nullptr;
-  }
+  QDialog *dialog() const { return dialogOver(*tab); }
   template <typename Dialog>
   Dialog *dialogOf() const {
     return qobject_cast<Dialog *>(dialog());
@@ -153,7 +145,6 @@ class GroupsTabTest : public ViewTest {
   PathItem notes = item(QStringLiteral("Notes"), work, 1);
   PathItem plan = item(QStringLiteral("Plan"), work, 2);
   PathItem garden = item(QStringLiteral("Garden"), home_, 0);
-  FakeFileChooser fileChooser;
   std::unique_ptr<AppState> state;
   std::unique_ptr<GroupsSettingsTab> tab;
 };

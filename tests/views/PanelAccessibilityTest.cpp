@@ -1,10 +1,7 @@
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Utilities/FloatingPanel.h"
-#include "Views/Panel/PanelAccessibility.h"
-#include "Views/Panel/PopupPanelView.h"
-#include "views/ViewTest.h"
+#include "views/AccessiblePanelTest.h"
 
-#include <QtGui/QAccessible>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QLineEdit>
 
@@ -14,20 +11,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class PanelAccessibilityTest : public ViewTest {
+class PanelAccessibilityTest : public AccessiblePanelTest {
  protected:
-  static void SetUpTestSuite() { PanelAccessibility::install(); }
-
-  void show(const QList<PathGroup> &groups, const QList<PathItem> &items) {
-    state = makeState(groups, items);
-    view = std::make_unique<PopupPanelView>(*state);
-    view->resize(500, 400);
-    view->show();
-  }
-
-  static QString nameOf(const QAccessibleInterface *about) {
-    return about->text(QAccessible::Name);
-  }
   /// The names of everything below that is shown and named, in the order in which readers come to
   /// it.
   static void collectShown(const QAccessibleInterface *about, QStringList &texts) {
@@ -41,11 +26,6 @@ class PanelAccessibilityTest : public ViewTest {
       }
     }
   }
-
-  PathGroup work = group(u"Work"_s);
-  PathItem report = item(u"Report"_s, work, 0, u"make report"_s);
-  std::unique_ptr<AppState> state;
-  std::unique_ptr<PopupPanelView> view;
 };
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "Platform/Linux/BusSingleInstance.h"
 
+#include "Platform/ActivationToken.h"
+#include "Platform/Linux/ApplicationAdaptor.h"
 #include "Platform/Linux/SessionBusAddress.h"
 
 #include <QtCore/QLoggingCategory>
@@ -22,9 +24,9 @@ const QString interfaceName = u"org.freedesktop.Application"_s;
 /// How long a running program may take to answer, in milliseconds. It is asked either way.
 constexpr int patience = 1000;
 
-void askToShow(const QDBusConnection &bus) {
+void askToShow(const QDBusConnection &bus, const ActivationToken &token) {
   auto call = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, u"Activate"_s);
-  call.setArguments({QVariantMap()});
+  call.setArguments({ApplicationAdaptor::platformData(token)});
   const QDBusMessage reply = bus.call(call, QDBus::Block, patience);
   if (reply.type() == QDBusMessage::ErrorMessage) {
     qCWarning(instanceLog).noquote()
@@ -42,7 +44,7 @@ bool BusSingleInstance::isAvailable() {
   return isSessionBusAnnounced() && QDBusConnection::sessionBus().isConnected();
 }
 
-bool BusSingleInstance::claim() {
+bool BusSingleInstance::claim(const ActivationToken &token) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   // The object is there before its name is, so that nobody finds the one without the other.
   bus.registerObject(objectPath, this);
@@ -56,25 +58,8 @@ bool BusSingleInstance::claim() {
     return true;
   }
   bus.unregisterObject(objectPath);
-  askToShow(bus);
+  askToShow(bus, token);
   return false;
-}
-
-ApplicationAdaptor::ApplicationAdaptor(BusSingleInstance &instance)
-    : QDBusAbstractAdaptor(&instance), m_instance(instance) {}
-
-void ApplicationAdaptor::Activate(const QVariantMap & /*platformData*/) {
-  Q_EMIT m_instance.showRequested();
-}
-
-void ApplicationAdaptor::Open(const QStringList & /*uris*/, const QVariantMap & /*platformData*/) {
-  Q_EMIT m_instance.showRequested();
-}
-
-void ApplicationAdaptor::ActivateAction(const QString & /*name*/,
-                                        const QVariantList & /*parameters*/,
-                                        const QVariantMap & /*platformData*/) {
-  Q_EMIT m_instance.showRequested();
 }
 
 }  // namespace lanternix

@@ -90,7 +90,7 @@ void answerRequests(const SingleInstance &instance, AppDelegate &delegate,
 }
 
 /// The session's one program, started with \p token, until its end.
-int runShell(SingleInstance &instance, const ActivationToken &token, LanternixStyle &style) {
+int runShell(const SingleInstance &instance, const ActivationToken &token, LanternixStyle &style) {
   const std::unique_ptr<Platform> platform = Platform::create();
   platform->windowSystem().noteRequest(token);
   followCompositing(platform->windowSystem(), style);
@@ -103,9 +103,6 @@ int runShell(SingleInstance &instance, const ActivationToken &token, LanternixSt
   // Queued: a tray can wait until the program answers its shortcut.
   QMetaObject::invokeMethod(
       &delegate, [&] { statusItem = makeStatusItem(delegate, *platform); }, Qt::QueuedConnection);
-  // What the program was started for comes before the panel that comes by itself: that one must not
-  // be what a wish to hide or show the panel hides.
-  QCoreApplication::sendPostedEvents(&instance);
   return QApplication::exec();
 }
 

@@ -12,6 +12,7 @@ class SingleInstance : public QObject {
 
  public:
   enum class Request { showPanel, togglePanel, openSettings };
+  Q_ENUM(Request)
 
   using QObject::QObject;
 
@@ -21,8 +22,8 @@ class SingleInstance : public QObject {
 
  Q_SIGNALS:
   /// The user has asked for this by another program: a second start, the desktop's menu or a key
-  /// bound there. What the program was started for is emitted by the first events that are
-  /// delivered to this object after claim().
+  /// bound there. Also when that is what this program was started for; as the panel comes up by
+  /// itself at the start, to toggle it means to show it then.
   void requested(lanternix::SingleInstance::Request request,
                  const lanternix::ActivationToken &token);
 };

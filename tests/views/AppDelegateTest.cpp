@@ -8,6 +8,7 @@
 #include "Views/Settings/SettingsView.h"
 #include "views/ViewTest.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
@@ -101,9 +102,33 @@ TEST_F(AppDelegateTest, ThePanel_ShowsItselfAfterTheStart) {
   EXPECT_TRUE(delegate->appState().isPanelVisible());
 }
 
+TEST_F(AppDelegateTest, SettingsOpenedBeforeThePanelShowsItself_KeepItAway) {
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
+  delegate->applicationDidFinishLaunching();
+  delegate->openSettings();
+  // Due after the panel, for which the clock has been running longer.
+  bool isPanelDue = false;
+  QTimer::singleShot(300, Qt::PreciseTimer, qApp, [&isPanelDue] { isPanelDue = true; });
+  ASSERT_TRUE(QTest::qWaitFor([&isPanelDue] { return isPanelDue; }));
+  EXPECT_FALSE(panel()->isVisible());
+  EXPECT_TRUE(settings()->isVisible());
+}
+
+TEST_F(AppDelegateTest, ToggleBeforeThePanelShowsItself_ShowsItAndItStays) {
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
+  delegate->applicationDidFinishLaunching();
+  delegate->togglePanel();
+  EXPECT_TRUE(panel()->isVisible());
+  bool isPanelDue = false;
+  QTimer::singleShot(300, Qt::PreciseTimer, qApp, [&isPanelDue] { isPanelDue = true; });
+  ASSERT_TRUE(QTest::qWaitFor([&isPanelDue] { return isPanelDue; }));
+  EXPECT_TRUE(panel()->isVisible());
+}
+
 TEST_F(AppDelegateTest, BeforeTheStart_ThereIsNothingToShow) {
   delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
   delegate->showPanel();
+  delegate->togglePanel();
   EXPECT_EQ(panel(), nullptr);
   EXPECT_FALSE(delegate->appState().isPanelVisible());
 }

@@ -1,7 +1,7 @@
 #include "Platform/Linux/ApplicationAdaptor.h"
 
 #include "Platform/ActivationToken.h"
-#include "Platform/SingleInstance.h"
+#include "Platform/Linux/BusSingleInstance.h"
 
 #include <QtCore/QLoggingCategory>
 #include <QtDBus/QDBusConnection>
@@ -40,7 +40,7 @@ std::optional<Request> requestFor(const QString &action) {
 
 }  // namespace
 
-ApplicationAdaptor::ApplicationAdaptor(SingleInstance &instance)
+ApplicationAdaptor::ApplicationAdaptor(BusSingleInstance &instance)
     : QDBusAbstractAdaptor(&instance), m_instance(instance) {}
 
 QVariantMap ApplicationAdaptor::platformData(const ActivationToken &token) {
@@ -55,12 +55,12 @@ QVariantMap ApplicationAdaptor::platformData(const ActivationToken &token) {
 }
 
 void ApplicationAdaptor::Activate(const QVariantMap &platform_data) {
-  Q_EMIT m_instance.requested(Request::showPanel, tokenIn(platform_data));
+  m_instance.receive(Request::showPanel, tokenIn(platform_data));
 }
 
 void ApplicationAdaptor::Open(const QStringList &uris, const QVariantMap &platform_data) {
   qCInfo(instanceLog) << "Asked to open files, which the program does not take:" << uris;
-  Q_EMIT m_instance.requested(Request::showPanel, tokenIn(platform_data));
+  m_instance.receive(Request::showPanel, tokenIn(platform_data));
 }
 
 void ApplicationAdaptor::ActivateAction(const QString &action_name,
@@ -68,7 +68,7 @@ void ApplicationAdaptor::ActivateAction(const QString &action_name,
                                         const QVariantMap &platform_data,
                                         const QDBusMessage &message) {
   if (const std::optional<Request> request = requestFor(action_name)) {
-    Q_EMIT m_instance.requested(*request, tokenIn(platform_data));
+    m_instance.receive(*request, tokenIn(platform_data));
     return;
   }
   const QString reason =

@@ -8,7 +8,7 @@ class QDBusMessage;
 
 namespace lanternix {
 
-class SingleInstance;
+class BusSingleInstance;
 struct ActivationToken;
 
 /// What other programs can call on the bus, the interface of all applications that live there:
@@ -19,7 +19,7 @@ class ApplicationAdaptor : public QDBusAbstractAdaptor {
   Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
  public:
-  explicit ApplicationAdaptor(SingleInstance &instance);
+  explicit ApplicationAdaptor(BusSingleInstance &instance);
 
   /// \p token as a caller hands it over.
   static QVariantMap platformData(const ActivationToken &token);
@@ -35,7 +35,7 @@ class ApplicationAdaptor : public QDBusAbstractAdaptor {
                       const QVariantMap &platform_data, const QDBusMessage &message);
 
  private:
-  SingleInstance &m_instance;
+  BusSingleInstance &m_instance;
 };
 
 }  // namespace lanternix

@@ -10,6 +10,8 @@
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusReply>
 
+#include <utility>
+
 namespace lanternix {
 namespace {
 
@@ -34,9 +36,17 @@ void askToShow(const QDBusConnection &bus, const ActivationToken &token) {
   }
 }
 
+/// A bus says so to what it starts. That is not for programs started from here to hear as well.
+bool isStartedByBus() {
+  const bool isStarted = qgetenv("DBUS_STARTER_BUS_TYPE") == "session";
+  qunsetenv("DBUS_STARTER_BUS_TYPE");
+  qunsetenv("DBUS_STARTER_ADDRESS");
+  return isStarted;
+}
+
 }  // namespace
 
-BusSingleInstance::BusSingleInstance() {
+BusSingleInstance::BusSingleInstance() : m_awaitsReasonForStart(isStartedByBus()) {
   new ApplicationAdaptor(*this);  // a child of this
 }
 
@@ -60,6 +70,13 @@ bool BusSingleInstance::claim(const ActivationToken &token) {
   bus.unregisterObject(objectPath);
   askToShow(bus, token);
   return false;
+}
+
+void BusSingleInstance::receive(Request request, const ActivationToken &token) {
+  const bool isReasonForStart = std::exchange(m_awaitsReasonForStart, false);
+  // It can come before the panel or, from a caller who first asks what can be called, after it.
+  const bool meansShowing = isReasonForStart && request == Request::togglePanel;
+  Q_EMIT requested(meansShowing ? Request::showPanel : request, token);
 }
 
 }  // namespace lanternix

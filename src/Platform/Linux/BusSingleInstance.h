@@ -16,6 +16,13 @@ class BusSingleInstance : public SingleInstance {
   static bool isAvailable();
 
   bool claim(const ActivationToken &token) override;
+
+  /// What has been asked for on the bus.
+  void receive(Request request, const ActivationToken &token);
+
+ private:
+  /// Whether the bus has started the program and what for is yet to come.
+  bool m_awaitsReasonForStart;
 };
 
 }  // namespace lanternix

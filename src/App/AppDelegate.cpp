@@ -93,6 +93,7 @@ void AppDelegate::showPanel() {
   if (!m_panel) {
     return;
   }
+  m_firstShow.stop();  // it would bring back what may be hidden by then
   if (const QScreen *screen = m_windowSystem.activeScreen()) {
     m_panel->setFrame(panelFrame(screen->availableGeometry()));
   }

@@ -32,7 +32,8 @@ class AppDelegate : public QObject {
 
   AppState &appState() { return m_appState; }
 
-  /// Builds the panel and shows it 0.3 seconds later, unless the settings are opened before.
+  /// Builds the panel and shows it 0.3 seconds later, unless somebody asks for it or for the
+  /// settings before.
   void applicationDidFinishLaunching();
 
   /// Shows the panel in its stored size on the screen the user works on, with the keyboard. Before

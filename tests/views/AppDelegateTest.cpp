@@ -46,6 +46,14 @@ class AppDelegateTest : public ViewTest {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(panel()));
   }
 
+  /// Returns when the panel should have shown itself after the start. The clock of that has been
+  /// running longer than this one's.
+  static void awaitFirstShow() {
+    bool isPanelDue = false;
+    QTimer::singleShot(300, Qt::PreciseTimer, qApp, [&isPanelDue] { isPanelDue = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&isPanelDue] { return isPanelDue; }));
+  }
+
   template <typename Window>
   static Window *window() {
     for (QWidget *widget : QApplication::topLevelWidgets()) {
@@ -106,10 +114,7 @@ TEST_F(AppDelegateTest, SettingsOpenedBeforeThePanelShowsItself_KeepItAway) {
   delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
   delegate->applicationDidFinishLaunching();
   delegate->openSettings();
-  // Due after the panel, for which the clock has been running longer.
-  bool isPanelDue = false;
-  QTimer::singleShot(300, Qt::PreciseTimer, qApp, [&isPanelDue] { isPanelDue = true; });
-  ASSERT_TRUE(QTest::qWaitFor([&isPanelDue] { return isPanelDue; }));
+  awaitFirstShow();
   EXPECT_FALSE(panel()->isVisible());
   EXPECT_TRUE(settings()->isVisible());
 }
@@ -118,11 +123,17 @@ TEST_F(AppDelegateTest, ToggleBeforeThePanelShowsItself_ShowsItAndItStays) {
   delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
   delegate->applicationDidFinishLaunching();
   delegate->togglePanel();
+  awaitFirstShow();
   EXPECT_TRUE(panel()->isVisible());
-  bool isPanelDue = false;
-  QTimer::singleShot(300, Qt::PreciseTimer, qApp, [&isPanelDue] { isPanelDue = true; });
-  ASSERT_TRUE(QTest::qWaitFor([&isPanelDue] { return isPanelDue; }));
-  EXPECT_TRUE(panel()->isVisible());
+}
+
+TEST_F(AppDelegateTest, PanelHiddenBeforeItWouldShowItself_StaysHidden) {
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
+  delegate->applicationDidFinishLaunching();
+  delegate->togglePanel();
+  delegate->togglePanel();
+  awaitFirstShow();
+  EXPECT_FALSE(panel()->isVisible());
 }
 
 TEST_F(AppDelegateTest, BeforeTheStart_ThereIsNothingToShow) {

@@ -10,7 +10,6 @@
 #include "Views/Panel/PopupPanelView.h"
 #include "Views/Settings/SettingsView.h"
 
-#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
 #include <QtWidgets/QAbstractButton>
@@ -44,7 +43,12 @@ AppDelegate::AppDelegate(const Doors &doors, WindowSystem &windowSystem,
       m_windowSystem(windowSystem),
       m_mouseMonitor(mouseMonitor),
       m_loginItem(loginItem),
-      m_appState(doors) {}
+      m_appState(doors) {
+  m_firstShow.setSingleShot(true);
+  m_firstShow.setTimerType(Qt::PreciseTimer);
+  m_firstShow.setInterval(firstShowDelay);
+  connect(&m_firstShow, &QTimer::timeout, this, &AppDelegate::showPanel);
+}
 
 AppDelegate::~AppDelegate() {
   m_mouseMonitor.setActive(false);
@@ -52,7 +56,7 @@ AppDelegate::~AppDelegate() {
 
 void AppDelegate::applicationDidFinishLaunching() {
   // The clock runs while the panel is built, which is part of the wait.
-  QTimer::singleShot(firstShowDelay, Qt::PreciseTimer, this, &AppDelegate::showPanel);
+  m_firstShow.start();
   setupPanel();
   m_appState.hotkeyService().onToggle = [this] { togglePanel(); };
 }
@@ -78,7 +82,7 @@ void AppDelegate::setupPanel() {
 }
 
 void AppDelegate::togglePanel() {
-  if (m_panel->isVisible()) {
+  if (m_panel && m_panel->isVisible()) {
     m_appState.hidePanel();
   } else {
     showPanel();
@@ -89,6 +93,7 @@ void AppDelegate::showPanel() {
   if (!m_panel) {
     return;
   }
+  m_firstShow.stop();  // it would bring back what may be hidden by then
   if (const QScreen *screen = m_windowSystem.activeScreen()) {
     m_panel->setFrame(panelFrame(screen->availableGeometry()));
   }
@@ -97,6 +102,7 @@ void AppDelegate::showPanel() {
 }
 
 void AppDelegate::openSettings() {
+  m_firstShow.stop();  // the panel would come up over what was asked for
   if (m_panel && m_panel->isVisible()) {
     m_appState.hidePanel();
   }

@@ -5,6 +5,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QRect>
+#include <QtCore/QTimer>
 
 #include <memory>
 
@@ -32,19 +33,23 @@ class AppDelegate : public QObject {
 
   AppState &appState() { return m_appState; }
 
-  /// Builds the panel and shows it 0.3 seconds later.
+  /// Builds the panel and shows it 0.3 seconds later, unless somebody asks for it or for the
+  /// settings before.
   void applicationDidFinishLaunching();
 
   /// Shows the panel in its stored size on the screen the user works on, with the keyboard. Before
   /// applicationDidFinishLaunching(): nothing.
   void showPanel();
 
+  /// Hides the panel when it is shown, else shows it. Before applicationDidFinishLaunching():
+  /// nothing.
+  void togglePanel();
+
   /// Hides the panel and shows the settings window in front, with the keyboard.
   void openSettings();
 
  private:
   void setupPanel();
-  void togglePanel();
   void hideOnPressOutside();
   void storePanelSize();
   bool handleKey(const QKeyEvent &press);
@@ -56,6 +61,7 @@ class AppDelegate : public QObject {
   GlobalMouseMonitor &m_mouseMonitor;
   LoginItem &m_loginItem;
   AppState m_appState;
+  QTimer m_firstShow;
   std::unique_ptr<FloatingPanel> m_panel;
   std::unique_ptr<LocalKeyMonitor> m_keyMonitor;
   DesktopFileChooser m_fileChooser;

@@ -2,6 +2,7 @@
 
 #include "App/AppDelegate.h"
 #include "App/AppearanceFollower.h"
+#include "Platform/ActivationToken.h"
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationMonitor.h"
@@ -68,14 +69,35 @@ void followTermination(const Application &application, const TerminationMonitor 
       [](QSessionManager &session) { session.setRestartHint(QSessionManager::RestartNever); });
 }
 
-/// The session's one program, until its end.
-int runShell(const SingleInstance &instance, LanternixStyle &style) {
+void answerRequests(const SingleInstance &instance, AppDelegate &delegate,
+                    WindowSystem &windowSystem) {
+  using Request = SingleInstance::Request;
+  const auto answer = [&delegate, &windowSystem](Request request, const ActivationToken &token) {
+    windowSystem.noteRequest(token);
+    switch (request) {
+      case Request::showPanel:
+        delegate.showPanel();
+        break;
+      case Request::togglePanel:
+        delegate.togglePanel();
+        break;
+      case Request::openSettings:
+        delegate.openSettings();
+        break;
+    }
+  };
+  QObject::connect(&instance, &SingleInstance::requested, &delegate, answer);
+}
+
+/// The session's one program, started with \p token, until its end.
+int runShell(const SingleInstance &instance, const ActivationToken &token, LanternixStyle &style) {
   const std::unique_ptr<Platform> platform = Platform::create();
+  platform->windowSystem().noteRequest(token);
   followCompositing(platform->windowSystem(), style);
   const AppearanceFollower appearance(platform->systemAppearance(), style);
   AppDelegate delegate(platform->doors(), platform->windowSystem(), platform->mouseMonitor(),
                        platform->loginItem());
-  QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showPanel);
+  answerRequests(instance, delegate, platform->windowSystem());
   delegate.applicationDidFinishLaunching();
   std::unique_ptr<StatusItem> statusItem;
   // Queued: a tray can wait until the program answers its shortcut.
@@ -91,6 +113,7 @@ int LanternixApp::run(int argc, char **argv) {
     std::fputs("lanternix: there is no display to show the panel on\n", stderr);
     return 1;
   }
+  const ActivationToken token = ActivationToken::takeFromEnvironment();
   QCoreApplication::setApplicationName(u"Lanternix"_s);
   QGuiApplication::setDesktopFileName(u"org.lanternix.Lanternix"_s);
   auto *style = new LanternixStyle;  // owned by the application
@@ -108,10 +131,10 @@ int LanternixApp::run(int argc, char **argv) {
   SettingsAccessibility::install();
 
   const std::unique_ptr<SingleInstance> instance = makeSingleInstance();
-  if (!instance->claim()) {
+  if (!instance->claim(token)) {
     return 0;
   }
-  return runShell(*instance, *style);
+  return runShell(*instance, token, *style);
 }
 
 }  // namespace lanternix

@@ -9,6 +9,8 @@ class QWindow;
 
 namespace lanternix {
 
+struct ActivationToken;
+
 /// What the panel asks of the window system beyond an ordinary window.
 class WindowSystem : public QObject {
   Q_OBJECT
@@ -20,6 +22,10 @@ class WindowSystem : public QObject {
   /// The screen that holds the active window, else the one under the pointer, else the primary
   /// one. Null only without any screen.
   virtual QScreen *activeScreen() const = 0;
+
+  /// The program is about to answer a request of the user's that came with \p token: by the next
+  /// activate(), or by the next prepareHiding(). The answer uses the token up.
+  virtual void noteRequest(const ActivationToken &token) = 0;
 
   /// Marks \p window, which is not shown yet, as a panel: above other windows, on every desktop, in
   /// no taskbar, pager or window list. Window systems forget these marks when a window is hidden,

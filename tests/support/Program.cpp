@@ -9,8 +9,12 @@ namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
+QString Program::file() {
+  return QStringLiteral(LANTERNIX_PROGRAM);
+}
+
 Program::Program(DesktopSession &session, Disk disk)
-    : m_session(session), m_process(QStringLiteral(LANTERNIX_PROGRAM), u"lanternix"_s) {
+    : m_session(session), m_process(file(), u"lanternix"_s) {
   if (disk == Disk::full) {
     m_process.forbidFileWrites();
   }

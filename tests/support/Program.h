@@ -14,6 +14,9 @@ class Program {
  public:
   enum class Disk { writable, full };
 
+  /// Where the built program is.
+  static QString file();
+
   /// Starts it; no window need be there yet.
   explicit Program(DesktopSession &session, Disk disk = Disk::writable);
 

@@ -8,6 +8,7 @@
 #include "Views/Settings/SettingsView.h"
 #include "views/ViewTest.h"
 
+#include <QtCore/QTimer>
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QScreen>
@@ -43,6 +44,14 @@ class AppDelegateTest : public ViewTest {
     delegate->showPanel();
     ASSERT_NE(panel(), nullptr);
     ASSERT_TRUE(QTest::qWaitForWindowExposed(panel()));
+  }
+
+  /// Returns when the panel should have shown itself after the start. The clock of that has been
+  /// running longer than this one's.
+  static void awaitFirstShow() {
+    bool isPanelDue = false;
+    QTimer::singleShot(300, Qt::PreciseTimer, qApp, [&isPanelDue] { isPanelDue = true; });
+    ASSERT_TRUE(QTest::qWaitFor([&isPanelDue] { return isPanelDue; }));
   }
 
   template <typename Window>
@@ -101,9 +110,36 @@ TEST_F(AppDelegateTest, ThePanel_ShowsItselfAfterTheStart) {
   EXPECT_TRUE(delegate->appState().isPanelVisible());
 }
 
+TEST_F(AppDelegateTest, SettingsOpenedBeforeThePanelShowsItself_KeepItAway) {
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
+  delegate->applicationDidFinishLaunching();
+  delegate->openSettings();
+  awaitFirstShow();
+  EXPECT_FALSE(panel()->isVisible());
+  EXPECT_TRUE(settings()->isVisible());
+}
+
+TEST_F(AppDelegateTest, ToggleBeforeThePanelShowsItself_ShowsItAndItStays) {
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
+  delegate->applicationDidFinishLaunching();
+  delegate->togglePanel();
+  awaitFirstShow();
+  EXPECT_TRUE(panel()->isVisible());
+}
+
+TEST_F(AppDelegateTest, PanelHiddenBeforeItWouldShowItself_StaysHidden) {
+  delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
+  delegate->applicationDidFinishLaunching();
+  delegate->togglePanel();
+  delegate->togglePanel();
+  awaitFirstShow();
+  EXPECT_FALSE(panel()->isVisible());
+}
+
 TEST_F(AppDelegateTest, BeforeTheStart_ThereIsNothingToShow) {
   delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
   delegate->showPanel();
+  delegate->togglePanel();
   EXPECT_EQ(panel(), nullptr);
   EXPECT_FALSE(delegate->appState().isPanelVisible());
 }

@@ -1,5 +1,7 @@
 #include "Platform/Linux/BusSingleInstance.h"
 
+#include "Platform/ActivationToken.h"
+#include "Platform/Linux/ApplicationAdaptor.h"
 #include "Platform/Linux/SessionBusAddress.h"
 
 #include <QtCore/QLoggingCategory>
@@ -7,6 +9,8 @@
 #include <QtDBus/QDBusConnectionInterface>
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusReply>
+
+#include <utility>
 
 namespace lanternix {
 namespace {
@@ -22,9 +26,9 @@ const QString interfaceName = u"org.freedesktop.Application"_s;
 /// How long a running program may take to answer, in milliseconds. It is asked either way.
 constexpr int patience = 1000;
 
-void askToShow(const QDBusConnection &bus) {
+void askToShow(const QDBusConnection &bus, const ActivationToken &token) {
   auto call = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, u"Activate"_s);
-  call.setArguments({QVariantMap()});
+  call.setArguments({ApplicationAdaptor::platformData(token)});
   const QDBusMessage reply = bus.call(call, QDBus::Block, patience);
   if (reply.type() == QDBusMessage::ErrorMessage) {
     qCWarning(instanceLog).noquote()
@@ -32,9 +36,17 @@ void askToShow(const QDBusConnection &bus) {
   }
 }
 
+/// A bus says so to what it starts. That is not for programs started from here to hear as well.
+bool isStartedByBus() {
+  const bool isStarted = qgetenv("DBUS_STARTER_BUS_TYPE") == "session";
+  qunsetenv("DBUS_STARTER_BUS_TYPE");
+  qunsetenv("DBUS_STARTER_ADDRESS");
+  return isStarted;
+}
+
 }  // namespace
 
-BusSingleInstance::BusSingleInstance() {
+BusSingleInstance::BusSingleInstance() : m_awaitsReasonForStart(isStartedByBus()) {
   new ApplicationAdaptor(*this);  // a child of this
 }
 
@@ -42,7 +54,7 @@ bool BusSingleInstance::isAvailable() {
   return isSessionBusAnnounced() && QDBusConnection::sessionBus().isConnected();
 }
 
-bool BusSingleInstance::claim() {
+bool BusSingleInstance::claim(const ActivationToken &token) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   // The object is there before its name is, so that nobody finds the one without the other.
   bus.registerObject(objectPath, this);
@@ -56,25 +68,15 @@ bool BusSingleInstance::claim() {
     return true;
   }
   bus.unregisterObject(objectPath);
-  askToShow(bus);
+  askToShow(bus, token);
   return false;
 }
 
-ApplicationAdaptor::ApplicationAdaptor(BusSingleInstance &instance)
-    : QDBusAbstractAdaptor(&instance), m_instance(instance) {}
-
-void ApplicationAdaptor::Activate(const QVariantMap & /*platformData*/) {
-  Q_EMIT m_instance.showRequested();
-}
-
-void ApplicationAdaptor::Open(const QStringList & /*uris*/, const QVariantMap & /*platformData*/) {
-  Q_EMIT m_instance.showRequested();
-}
-
-void ApplicationAdaptor::ActivateAction(const QString & /*name*/,
-                                        const QVariantList & /*parameters*/,
-                                        const QVariantMap & /*platformData*/) {
-  Q_EMIT m_instance.showRequested();
+void BusSingleInstance::receive(Request request, const ActivationToken &token) {
+  const bool isReasonForStart = std::exchange(m_awaitsReasonForStart, false);
+  // It can come before the panel or, from a caller who first asks what can be called, after it.
+  const bool meansShowing = isReasonForStart && request == Request::togglePanel;
+  Q_EMIT requested(meansShowing ? Request::showPanel : request, token);
 }
 
 }  // namespace lanternix

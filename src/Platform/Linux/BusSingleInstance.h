@@ -2,14 +2,10 @@
 
 #include "Platform/SingleInstance.h"
 
-#include <QtCore/QStringList>
-#include <QtCore/QVariantMap>
-#include <QtDBus/QDBusAbstractAdaptor>
-
 namespace lanternix {
 
 /// One program per session bus: whoever owns the name "org.lanternix.Lanternix". Others reach it
-/// there by the "org.freedesktop.Application" interface.
+/// there by ApplicationAdaptor's interface, a second start too.
 class BusSingleInstance : public SingleInstance {
   Q_OBJECT
 
@@ -19,25 +15,14 @@ class BusSingleInstance : public SingleInstance {
   /// Whether there is a session bus to claim the name on.
   static bool isAvailable();
 
-  bool claim() override;
-};
+  bool claim(const ActivationToken &token) override;
 
-/// What other programs can call. Whatever they ask for, the program answers by its panel.
-class ApplicationAdaptor : public QDBusAbstractAdaptor {
-  Q_OBJECT
-  Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
-
- public:
-  explicit ApplicationAdaptor(BusSingleInstance &instance);
-
- public Q_SLOTS:
-  void Activate(const QVariantMap &platformData);
-  void Open(const QStringList &uris, const QVariantMap &platformData);
-  void ActivateAction(const QString &name, const QVariantList &parameters,
-                      const QVariantMap &platformData);
+  /// What has been asked for on the bus.
+  void receive(Request request, const ActivationToken &token);
 
  private:
-  BusSingleInstance &m_instance;
+  /// Whether the bus has started the program and what for is yet to come.
+  bool m_awaitsReasonForStart;
 };
 
 }  // namespace lanternix

@@ -1,5 +1,6 @@
 #include "Platform/Linux/LockFileSingleInstance.h"
 
+#include "Platform/ActivationToken.h"
 #include "Platform/Linux/BaseDirectories.h"
 
 #include <QtCore/QDir>
@@ -9,11 +10,13 @@
 
 #include <array>
 #include <cerrno>
+#include <climits>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace lanternix {
 namespace {
@@ -60,6 +63,24 @@ bool isAt(const QByteArray &path, int descriptor) {
          ofPath.st_ino == opened.st_ino && ofPath.st_dev == opened.st_dev;
 }
 
+constexpr char fieldEnd = '\t';
+constexpr char lineEnd = '\n';
+
+/// A second start's line. Short enough for the pipe to take it in one piece, so that the lines of
+/// two do not mix; a token that does not fit in is left out.
+QByteArray lineFor(const ActivationToken &token) {
+  const QByteArray fields = token.token.toUtf8() + fieldEnd + token.startupId.toUtf8();
+  const bool fits =
+      fields.size() < PIPE_BUF && fields.count(fieldEnd) == 1 && !fields.contains(lineEnd);
+  return (fits ? fields : QByteArray()) + lineEnd;
+}
+
+ActivationToken tokenIn(const QByteArray &line) {
+  const QByteArrayList fields = line.split(fieldEnd);
+  return {.token = QString::fromUtf8(fields.value(0)),
+          .startupId = QString::fromUtf8(fields.value(1))};
+}
+
 }  // namespace
 
 LockFileSingleInstance::~LockFileSingleInstance() {
@@ -86,7 +107,7 @@ bool LockFileSingleInstance::lock() {
   }
 }
 
-bool LockFileSingleInstance::claim() {
+bool LockFileSingleInstance::claim(const ActivationToken &token) {
   m_path = QFile::encodeName(lockDirectory() + "/lanternix.lock"_L1);
   m_isLocked = lock();
   if (m_descriptor < 0) {
@@ -98,11 +119,15 @@ bool LockFileSingleInstance::claim() {
     listen();
     return true;
   }
-  const char ring = '!';
-  if (write(m_descriptor, &ring, 1) != 1) {
+  ring(token);
+  return false;
+}
+
+void LockFileSingleInstance::ring(const ActivationToken &token) {
+  const QByteArray line = lineFor(token);
+  if (write(m_descriptor, line.constData(), static_cast<size_t>(line.size())) != line.size()) {
     qCInfo(instanceLog) << "The running program has not been reached:" << std::strerror(errno);
   }
-  return false;
 }
 
 void LockFileSingleInstance::listen() {
@@ -111,13 +136,16 @@ void LockFileSingleInstance::listen() {
 }
 
 void LockFileSingleInstance::answer() {
-  std::array<char, 64> rings{};
-  bool rung = false;
-  while (read(m_descriptor, rings.data(), rings.size()) > 0) {
-    rung = true;
+  QByteArray rings;
+  std::array<char, PIPE_BUF> part{};
+  ssize_t length = 0;
+  while ((length = read(m_descriptor, part.data(), part.size())) > 0) {
+    rings.append(part.data(), length);
   }
-  if (rung) {
-    Q_EMIT showRequested();
+  QByteArrayList lines = rings.split(lineEnd);
+  lines.removeLast();  // what follows the last line's end
+  for (const QByteArray &line : std::as_const(lines)) {
+    Q_EMIT requested(Request::showPanel, tokenIn(line));
   }
 }
 

@@ -8,8 +8,8 @@ namespace lanternix {
 
 /// One program per user where there is no bus. A named pipe, "lanternix.lock" in the runtime
 /// directory, serves twice: whoever holds the lock on it is the one program, and whoever does not
-/// get the lock rings by writing to it. The system gives the lock up when its holder ends, however
-/// it ends; a holder that ends well takes the pipe away too.
+/// get the lock rings by writing a line to it, which carries his token. The system gives the lock
+/// up when its holder ends, however it ends; a holder that ends well takes the pipe away too.
 class LockFileSingleInstance : public SingleInstance {
   Q_OBJECT
 
@@ -17,11 +17,12 @@ class LockFileSingleInstance : public SingleInstance {
   using SingleInstance::SingleInstance;
   ~LockFileSingleInstance() override;
 
-  bool claim() override;
+  bool claim(const ActivationToken &token) override;
 
  private:
   /// Opens the pipe and locks it. False when another program has the lock; the pipe is open then.
   bool lock();
+  void ring(const ActivationToken &token);
   void listen();
   void answer();
 

@@ -1,11 +1,14 @@
 #include "Platform/Linux/QtWindowSystem.h"
 
+#include "Platform/ActivationToken.h"
 #include "Platform/RoundedRegion.h"
 
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -16,9 +19,15 @@ QScreen *QtWindowSystem::activeScreen() const {
   return underPointer != nullptr ? underPointer : QGuiApplication::primaryScreen();
 }
 
+void QtWindowSystem::noteRequest(const ActivationToken &token) {
+  m_token = token.token;
+}
+
 void QtWindowSystem::preparePanel(QWindow & /*window*/) {}
 
-void QtWindowSystem::prepareHiding(QWindow & /*window*/) {}
+void QtWindowSystem::prepareHiding(QWindow & /*window*/) {
+  m_token.clear();
+}
 
 bool QtWindowSystem::isComposited() const {
   return QGuiApplication::platformName().startsWith("wayland"_L1);
@@ -31,8 +40,17 @@ void QtWindowSystem::setFrame(QWindow &window, const Frame &frame) {
 }
 
 void QtWindowSystem::activate(QWindow &window) {
+  // The one way to hand a token to Qt, which looks for it there while it asks.
+  constexpr auto variable = "XDG_ACTIVATION_TOKEN";
+  const QString token = std::exchange(m_token, QString());
+  if (!token.isEmpty()) {
+    qputenv(variable, token.toUtf8());
+  }
   window.raise();
   window.requestActivate();
+  if (!token.isEmpty()) {
+    qunsetenv(variable);
+  }
 }
 
 }  // namespace lanternix

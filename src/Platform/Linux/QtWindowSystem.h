@@ -2,6 +2,8 @@
 
 #include "Platform/WindowSystem.h"
 
+#include <QtCore/QString>
+
 namespace lanternix {
 
 /// What Qt itself can do on any window system: used where no better door is at hand.
@@ -10,11 +12,16 @@ class QtWindowSystem : public WindowSystem {
 
  public:
   QScreen *activeScreen() const override;
+  void noteRequest(const ActivationToken &token) override;
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
   bool isComposited() const override;
   void setFrame(QWindow &window, const Frame &frame) override;
+
+ private:
+  /// Of the request that is being answered, by the rules of Wayland.
+  QString m_token;
 };
 
 }  // namespace lanternix

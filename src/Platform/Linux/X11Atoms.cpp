@@ -9,6 +9,8 @@ constexpr std::array<std::string_view, X11Atoms::nameCount> names{
     "_GTK_FRAME_EXTENTS",
     "_KDE_NET_WM_BLUR_BEHIND_REGION",
     "_NET_ACTIVE_WINDOW",
+    "_NET_STARTUP_INFO",
+    "_NET_STARTUP_INFO_BEGIN",
     "_NET_SUPPORTING_WM_CHECK",
     "_NET_WM_DESKTOP",
     "_NET_WM_STATE",

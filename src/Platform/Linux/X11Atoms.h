@@ -14,6 +14,8 @@ class X11Atoms {
     gtkFrameExtents,
     kdeNetWmBlurBehindRegion,
     netActiveWindow,
+    netStartupInfo,
+    netStartupInfoBegin,
     netSupportingWmCheck,
     netWmDesktop,
     netWmState,

@@ -1,5 +1,6 @@
 #include "Platform/Linux/X11WindowSystem.h"
 
+#include "Platform/ActivationToken.h"
 #include "Platform/Linux/X11EventTime.h"
 
 #include <QtCore/QDeadlineTimer>
@@ -40,7 +41,7 @@ bool comesTrue(Condition condition) {
 
 }  // namespace
 
-X11WindowSystem::X11WindowSystem(const X11Server &server, const X11EventTime &eventTime)
+X11WindowSystem::X11WindowSystem(const X11Server &server, X11EventTime &eventTime)
     : m_server(server), m_eventTime(eventTime), m_atoms(server), m_compositor(server, m_atoms) {
   connect(&m_compositor, &X11Compositor::changed, this, &WindowSystem::compositingChanged);
 }
@@ -58,6 +59,13 @@ QScreen *X11WindowSystem::activeScreen() const {
     }
   }
   return QtWindowSystem::activeScreen();
+}
+
+void X11WindowSystem::noteRequest(const ActivationToken &token) {
+  m_startupNotification.begin(token.startupId);
+  if (const quint32 time = X11StartupNotification::timeOf(token.startupId)) {
+    m_eventTime.note(time);
+  }
 }
 
 void X11WindowSystem::preparePanel(QWindow &window) {
@@ -85,29 +93,38 @@ void X11WindowSystem::preparePanel(QWindow &window) {
 void X11WindowSystem::prepareHiding(QWindow &window) {
   const xcb_window_t panel = nativeWindow(window);
   comesTrue([&] { return isViewable(panel) && (isManaged(panel) || !hasWindowManager()); });
+  m_startupNotification.end();
 }
 
 void X11WindowSystem::activate(QWindow &window) {
   const xcb_window_t panel = nativeWindow(window);
+  if (hasWindowManager()) {
+    askForActivation(panel);
+  } else {
+    raiseAndFocus(panel);
+  }
+  xcb_flush(m_server.connection());
+  m_startupNotification.end();
+}
+
+/// Without a window manager the server shows a window at once. Should it not be viewable all the
+/// same, the request is refused, and that answer is of no use to anybody.
+void X11WindowSystem::raiseAndFocus(xcb_window_t window) {
   xcb_connection_t *connection = m_server.connection();
-  if (!hasWindowManager()) {
-    // The server shows a window at once when nobody manages it. Should it not be viewable all the
-    // same, the request is refused, and that answer is of no use to anybody.
-    const quint32 above = XCB_STACK_MODE_ABOVE;
-    xcb_configure_window(connection, panel, XCB_CONFIG_WINDOW_STACK_MODE, &above);
-    const auto cookie =
-        xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, panel, XCB_CURRENT_TIME);
-    xcb_discard_reply(connection, cookie.sequence);
-    xcb_flush(connection);
-    return;
-  }
-  // The window manager meets these after the request to show the window, which it answers first.
-  setUserTime(panel);
+  const quint32 above = XCB_STACK_MODE_ABOVE;
+  xcb_configure_window(connection, window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
+  const auto cookie =
+      xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+  xcb_discard_reply(connection, cookie.sequence);
+}
+
+/// The window manager meets these after the request to show the window, which it answers first.
+void X11WindowSystem::askForActivation(xcb_window_t window) {
+  setUserTime(window);
   if (std::exchange(m_marksAtRisk, false)) {
-    addMarks(panel);
+    addMarks(window);
   }
-  sendToWindowManager(panel, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.recent()});
-  xcb_flush(connection);
+  sendToWindowManager(window, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.recent()});
 }
 
 void X11WindowSystem::setFrame(QWindow &window, const Frame &frame) {

@@ -3,6 +3,7 @@
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Platform/Linux/X11Atoms.h"
 #include "Platform/Linux/X11Compositor.h"
+#include "Platform/Linux/X11StartupNotification.h"
 
 #include <QtCore/QRect>
 
@@ -18,9 +19,10 @@ class X11WindowSystem : public QtWindowSystem {
   Q_OBJECT
 
  public:
-  X11WindowSystem(const X11Server &server, const X11EventTime &eventTime);
+  X11WindowSystem(const X11Server &server, X11EventTime &eventTime);
 
   QScreen *activeScreen() const override;
+  void noteRequest(const ActivationToken &token) override;
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
@@ -33,14 +35,17 @@ class X11WindowSystem : public QtWindowSystem {
   bool hasWindowManager() const;
   bool isManaged(xcb_window_t window) const;
   bool isViewable(xcb_window_t window) const;
+  void raiseAndFocus(xcb_window_t window);
+  void askForActivation(xcb_window_t window);
   void setUserTime(xcb_window_t window);
   void addMarks(xcb_window_t window);
   void sendToWindowManager(xcb_window_t window, X11Atoms::Name type,
                            const std::array<quint32, 5> &data);
 
   const X11Server &m_server;
-  const X11EventTime &m_eventTime;
+  X11EventTime &m_eventTime;
   mutable X11Atoms m_atoms;
+  X11StartupNotification m_startupNotification{m_server, m_atoms};
   X11Compositor m_compositor;
   /// Whether the window manager was about to wipe the panel's marks when they were written.
   bool m_marksAtRisk = false;

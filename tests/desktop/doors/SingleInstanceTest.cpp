@@ -1,68 +1,14 @@
-#include "support/ChildProcess.h"
-#include "support/SessionBus.h"
-#include "support/WaitUntil.h"
+#include "SingleInstanceTest.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
-#include <QtCore/QTemporaryDir>
-#include <QtDBus/QDBusConnection>
-#include <QtDBus/QDBusMessage>
 
 #include <csignal>
-#include <gtest/gtest.h>
 
 namespace lanternix {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-/// One start of the program.
-class Start : public ChildProcess {
- public:
-  explicit Start(const QProcessEnvironment &environment)
-      : ChildProcess(QStringLiteral(INSTANCE_PROBE), u"lanternix"_s) {
-    start({}, environment);
-  }
-  bool isFirst() { return firstLine() == "first"; }
-  bool isShown() {
-    return waitUntil([this] { return output().contains("shown\n"); });
-  }
-  bool endsWell() {
-    return waitUntil([this] { return exitCode() == 0; });
-  }
-};
-
-class SingleInstanceTest : public testing::Test {
- protected:
-  SingleInstanceTest() {
-    environment.insert(u"XDG_RUNTIME_DIR"_s, directory.path());
-    environment.insert(u"XDG_DATA_HOME"_s, directory.filePath(u"data"_s));
-    environment.insert(u"HOME"_s, directory.path());
-    environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
-    environment.remove(u"DISPLAY"_s);
-  }
-
-  void expectOneProgram() {
-    Start first(environment);
-    ASSERT_TRUE(first.isFirst());
-    Start second(environment);
-    EXPECT_FALSE(second.isFirst());
-    EXPECT_TRUE(second.endsWell());
-    EXPECT_TRUE(first.isShown());
-    EXPECT_TRUE(first.isRunning());
-  }
-
-  void expectAnotherAfter(void (ChildProcess::*end)()) {
-    Start first(environment);
-    ASSERT_TRUE(first.isFirst());
-    (first.*end)();
-    Start second(environment);
-    EXPECT_TRUE(second.isFirst());
-  }
-
-  QTemporaryDir directory;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-};
 
 TEST_F(SingleInstanceTest, WithoutBus_SecondStartShowsTheFirstAndEnds) {
   expectOneProgram();
@@ -73,7 +19,7 @@ TEST_F(SingleInstanceTest, WithoutBus_EveryFurtherStartShowsTheFirst) {
   ASSERT_TRUE(first.isFirst());
   for (int i = 1; i <= 3; ++i) {
     EXPECT_TRUE(Start(environment).endsWell());
-    EXPECT_TRUE(waitUntil([&] { return first.output().count("shown\n") == i; }));
+    EXPECT_TRUE(waitUntil([&] { return first.heard().size() == i; }));
   }
 }
 
@@ -109,36 +55,30 @@ TEST_F(SingleInstanceTest, WithoutBus_ForeignFileInTheLocksPlace_IsLeftAndThePro
   EXPECT_EQ(file.readAll(), "mine");
 }
 
+TEST_F(SingleInstanceTest, WithoutBus_SecondStartHandsItsTokenOver) {
+  expectTokenHandedOver();
+}
+
+TEST_F(SingleInstanceTest, WithoutBus_TokenThatThePipeCannotTakeWhole_IsLeftOut) {
+  for (const QString &token : {QString(70000, u't'), u"two\nlines"_s, u"two\tfields"_s}) {
+    Start first(environment);
+    ASSERT_TRUE(first.isFirst());
+    EXPECT_TRUE(Start(withToken(token, {})).endsWell());
+    EXPECT_TRUE(first.hears({u"showPanel token= id="_s}));
+  }
+}
+
 TEST_F(SingleInstanceTest, WithBusAddressThatIsDead_TheLockServes) {
   environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nonexistent/bus"_s);
   expectOneProgram();
 }
 
-class SingleInstanceOnBusTest : public SingleInstanceTest {
- protected:
-  SingleInstanceOnBusTest() { environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address()); }
-
-  /// Calls a running program as a desktop shell does.
-  static bool call(const QString &address, const QString &method, const QVariantList &arguments) {
-    const QString name = u"shell"_s;
-    bool answered = false;
-    {
-      QDBusConnection connection = QDBusConnection::connectToBus(address, name);
-      auto message = QDBusMessage::createMethodCall(u"org.lanternix.Lanternix"_s,
-                                                    u"/org/lanternix/Lanternix"_s,
-                                                    u"org.freedesktop.Application"_s, method);
-      message.setArguments(arguments);
-      answered = connection.call(message).type() == QDBusMessage::ReplyMessage;
-    }
-    QDBusConnection::disconnectFromBus(name);
-    return answered;
-  }
-
-  SessionBus bus;
-};
-
 TEST_F(SingleInstanceOnBusTest, SecondStart_ShowsTheFirstAndEnds) {
   expectOneProgram();
+}
+
+TEST_F(SingleInstanceOnBusTest, SecondStart_HandsItsTokenOver) {
+  expectTokenHandedOver();
 }
 
 TEST_F(SingleInstanceOnBusTest, StartAfterAnEnd_IsTheProgram) {
@@ -157,22 +97,6 @@ TEST_F(SingleInstanceOnBusTest, SecondStartOverOneThatHangs_EndsAllTheSame) {
   EXPECT_TRUE(second.endsWell());
   ::kill(static_cast<pid_t>(first.processId()), SIGCONT);
   EXPECT_TRUE(first.isShown());
-}
-
-TEST_F(SingleInstanceOnBusTest, EveryCallOfTheInterface_Shows) {
-  const QVariantMap platformData;
-  const QList<std::pair<QString, QVariantList>> calls{
-      {u"Activate"_s, {platformData}},
-      {u"Open"_s, {QStringList{u"file:///"_s}, platformData}},
-      {u"ActivateAction"_s, {u"show"_s, QVariantList(), platformData}}};
-  Start first(environment);
-  ASSERT_TRUE(first.isFirst());
-  int shown = 0;
-  for (const auto &[method, arguments] : calls) {
-    EXPECT_TRUE(call(bus.address(), method, arguments)) << method.toStdString();
-    ++shown;
-    EXPECT_TRUE(waitUntil([&] { return first.output().count("shown\n") == shown; }));
-  }
 }
 
 TEST_F(SingleInstanceOnBusTest, BusInTheRuntimeDirectory_ServesWithoutAVariable) {

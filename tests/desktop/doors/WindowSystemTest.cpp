@@ -1,3 +1,4 @@
+#include "Platform/ActivationToken.h"
 #include "Platform/KeyCodes.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
@@ -5,6 +6,7 @@
 #include "TestDisplay.h"
 #include "support/InputDriver.h"
 #include "support/OtherClient.h"
+#include "support/StartupListener.h"
 #include "support/WaitUntil.h"
 #include "support/WindowManager.h"
 #include "support/WindowProbe.h"
@@ -199,6 +201,45 @@ TEST_F(X11WindowSystemTest, WithoutWindowManager_ShownPanelLiesOnTop) {
   ASSERT_TRUE(windows.isAbove(other.window(), native()));
   windowSystem.activate(panel);
   EXPECT_TRUE(waitUntil([&] { return windows.isAbove(native(), other.window()); }));
+}
+
+TEST_F(X11WindowSystemTest, RequestWithAStartupId_EndsTheWaitOnceItIsAnswered) {
+  StartupListener startups(testDisplay().name());
+  windowSystem.noteRequest(
+      {.token = {}, .startupId = u"a \\ and \"quotes\" in a long name_TIME5"_s});
+  EXPECT_TRUE(startups.texts().isEmpty());
+  showPanel();
+  const QStringList ended{u"remove: ID=\"a \\\\ and \\\"quotes\\\" in a long name_TIME5\""_s};
+  EXPECT_TRUE(waitUntil([&] { return startups.texts() == ended; }))
+      << startups.texts().join(u'\n').toStdString();
+  hidePanel();
+  showPanel();
+  EXPECT_EQ(startups.texts(), ended);
+}
+
+TEST_F(X11WindowSystemTest, RequestBeforeTheLastOneIsAnswered_EndsTheWaitForThatOne) {
+  StartupListener startups(testDisplay().name());
+  windowSystem.noteRequest({.token = {}, .startupId = u"one_TIME5"_s});
+  windowSystem.noteRequest({});
+  EXPECT_TRUE(
+      waitUntil([&] { return startups.texts() == QStringList{u"remove: ID=\"one_TIME5\""_s}; }));
+}
+
+TEST_F(X11WindowSystemTest, TimeOfARequest_IsTheEndOfItsStartupId) {
+  const QList<std::pair<QString, quint32>> times{
+      {u"shell/menu-4-host_TIME4294967295"_s, 4294967295},
+      {u"_TIME1_TIME2"_s, 2},
+      {u"menu_TIME"_s, 0},
+      {u"menu_TIME-1"_s, 0},
+      {u"menu_TIME4294967296"_s, 0},
+      {u"menu_TIME7 or so"_s, 0},
+      {u"menu"_s, 0}};
+  for (const auto &[id, time] : times) {
+    EXPECT_EQ(X11StartupNotification::timeOf(id), time) << id.toStdString();
+    X11EventTime fresh;
+    X11WindowSystem(server, fresh).noteRequest({.token = {}, .startupId = id});
+    EXPECT_EQ(fresh.recent(), time) << id.toStdString();
+  }
 }
 
 TEST_F(X11WindowSystemTest, ActiveScreen_WithOneScreen_IsThatScreen) {

@@ -12,7 +12,6 @@
 
 #include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
-#include <QtGui/QScreen>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 
@@ -89,8 +88,9 @@ void AppDelegate::showPanel() {
   if (!m_panel) {
     return;
   }
-  if (const QScreen *screen = m_windowSystem.activeScreen()) {
-    m_panel->setFrame(panelFrame(screen->availableGeometry()));
+  const QRect workArea = m_windowSystem.workArea();
+  if (!workArea.isNull()) {
+    m_panel->setFrame(panelFrame(workArea));
   }
   m_panel->makeKeyAndOrderFront();
   m_appState.setPanelVisible(true);

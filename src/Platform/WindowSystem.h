@@ -2,9 +2,8 @@
 
 #include <QtCore/QMargins>
 #include <QtCore/QObject>
-#include <QtCore/QSize>
+#include <QtCore/QRect>
 
-class QScreen;
 class QWindow;
 
 namespace lanternix {
@@ -17,9 +16,9 @@ class WindowSystem : public QObject {
   WindowSystem();
   ~WindowSystem() override;
 
-  /// The screen that holds the active window, else the one under the pointer, else the primary
-  /// one. Null only without any screen.
-  virtual QScreen *activeScreen() const = 0;
+  /// Where a panel that is shown now may go: what the desktop's own bars leave of the screen that
+  /// the user works on, in the coordinates of windows' geometries. Null only without any screen.
+  virtual QRect workArea() const = 0;
 
   /// Marks \p window, which is not shown yet, as a panel: above other windows, on every desktop, in
   /// no taskbar, pager or window list. Window systems forget these marks when a window is hidden,
@@ -33,6 +32,13 @@ class WindowSystem : public QObject {
   /// Brings the shown \p window to the front and gives it the keyboard, also where the window
   /// manager guards against focus stealing: call it only in answer to an action of the user.
   virtual void activate(QWindow &window) = 0;
+
+  /// Lets the window system itself resize \p window by the \p edges that the mouse has just
+  /// pressed, or move it when those are none. False where that is left to the program.
+  virtual bool takeDrag(QWindow &window, Qt::Edges edges) = 0;
+
+  /// Moves and resizes \p window, which is shown, while the user drags it.
+  virtual void setGeometry(QWindow &window, const QRect &geometry) = 0;
 
   /// Whether windows are blended with what is below them, so that they may have soft edges.
   virtual bool isComposited() const = 0;

@@ -11,6 +11,7 @@
 #include "Platform/Linux/SignalTerminationMonitor.h"
 #include "Platform/Linux/SpawnProcessLauncher.h"
 #include "Platform/Linux/StatusNotifierHost.h"
+#include "Platform/Linux/WaylandWindowSystems.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
 #include "Platform/Linux/X11SelectionWatch.h"
@@ -92,10 +93,12 @@ class X11Platform : public LinuxPlatform {
   X11WindowSystem m_windowSystem{m_server, m_eventTime};
 };
 
-/// Where the window system is none that we know more of than Qt does.
+/// Where windows are the only thing that the window system has for us.
 class PlainPlatform : public LinuxPlatform {
  public:
-  WindowSystem &windowSystem() override { return m_windowSystem; }
+  explicit PlainPlatform(std::unique_ptr<WindowSystem> windowSystem)
+      : m_windowSystem(std::move(windowSystem)) {}
+  WindowSystem &windowSystem() override { return *m_windowSystem; }
   GlobalMouseMonitor &mouseMonitor() override { return m_mouseMonitor; }
 
  protected:
@@ -104,7 +107,7 @@ class PlainPlatform : public LinuxPlatform {
  private:
   NullHotkeyRegistrar m_hotkeyRegistrar;
   NullGlobalMouseMonitor m_mouseMonitor;
-  QtWindowSystem m_windowSystem;
+  const std::unique_ptr<WindowSystem> m_windowSystem;
 };
 
 }  // namespace
@@ -113,7 +116,9 @@ std::unique_ptr<Platform> Platform::create() {
   if (QGuiApplication::platformName() == "xcb"_L1) {
     return std::make_unique<X11Platform>();
   }
-  return std::make_unique<PlainPlatform>();
+  return std::make_unique<PlainPlatform>(QGuiApplication::platformName().startsWith("wayland"_L1)
+                                             ? makeWaylandWindowSystem()
+                                             : std::make_unique<QtWindowSystem>());
 }
 
 std::unique_ptr<SingleInstance> makeSingleInstance() {

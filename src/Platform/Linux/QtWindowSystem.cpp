@@ -16,9 +16,22 @@ QScreen *QtWindowSystem::activeScreen() const {
   return underPointer != nullptr ? underPointer : QGuiApplication::primaryScreen();
 }
 
+QRect QtWindowSystem::workArea() const {
+  const QScreen *screen = activeScreen();
+  return screen != nullptr ? screen->availableGeometry() : QRect();
+}
+
 void QtWindowSystem::preparePanel(QWindow & /*window*/) {}
 
 void QtWindowSystem::prepareHiding(QWindow & /*window*/) {}
+
+bool QtWindowSystem::takeDrag(QWindow & /*window*/, Qt::Edges /*edges*/) {
+  return false;
+}
+
+void QtWindowSystem::setGeometry(QWindow &window, const QRect &geometry) {
+  window.setGeometry(geometry);
+}
 
 bool QtWindowSystem::isComposited() const {
   return QGuiApplication::platformName().startsWith("wayland"_L1);

@@ -2,6 +2,8 @@
 
 #include "Platform/WindowSystem.h"
 
+class QScreen;
+
 namespace lanternix {
 
 /// What Qt itself can do on any window system: used where no better door is at hand.
@@ -9,12 +11,18 @@ class QtWindowSystem : public WindowSystem {
   Q_OBJECT
 
  public:
-  QScreen *activeScreen() const override;
+  QRect workArea() const override;
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
+  bool takeDrag(QWindow &window, Qt::Edges edges) override;
+  void setGeometry(QWindow &window, const QRect &geometry) override;
   bool isComposited() const override;
   void setFrame(QWindow &window, const Frame &frame) override;
+
+  /// The screen that holds the active window, else the one under the pointer, else the primary
+  /// one. Null only without any screen.
+  virtual QScreen *activeScreen() const;
 };
 
 }  // namespace lanternix

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Platform/Linux/QtWindowSystem.h"
+#include "Platform/Linux/WaylandLayerShell.h"
+
+namespace lanternix {
+
+/// Makes the panel a surface of the compositor's layer shell: above everything, in no list of
+/// windows, with the keyboard, and where the program wants it, which Wayland grants to no ordinary
+/// window. Its geometry counts from the corner of the work area.
+class LayerShellWindowSystem : public QtWindowSystem {
+  Q_OBJECT
+
+ public:
+  explicit LayerShellWindowSystem(std::unique_ptr<WaylandLayerShell> shell);
+
+  QRect workArea() const override;
+  void preparePanel(QWindow &window) override;
+  void setGeometry(QWindow &window, const QRect &geometry) override;
+
+ private:
+  const std::unique_ptr<WaylandLayerShell> m_shell;
+};
+
+}  // namespace lanternix

@@ -4,6 +4,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QRect>
 
+class QMouseEvent;
 class QWindow;
 
 namespace lanternix {
@@ -37,8 +38,11 @@ class WindowSystem : public QObject {
   /// pressed, or move it when those are none. False where that is left to the program.
   virtual bool takeDrag(QWindow &window, Qt::Edges edges) = 0;
 
-  /// Moves and resizes \p window, which is shown, while the user drags it.
+  /// Moves and resizes \p window, some window systems only with the next picture that it gets.
   virtual void setGeometry(QWindow &window, const QRect &geometry) = 0;
+
+  /// Where the mouse was at \p event of \p window, in the coordinates of windows' geometries.
+  virtual QPoint pointerPosition(const QWindow &window, const QMouseEvent &event) const = 0;
 
   /// Whether windows are blended with what is below them, so that they may have soft edges.
   virtual bool isComposited() const = 0;

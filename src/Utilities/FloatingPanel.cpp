@@ -100,9 +100,7 @@ void FloatingPanel::closeEvent(QCloseEvent *event) {
 void FloatingPanel::setFrame(const QRect &frame) {
   m_wantedGeometry = frame.marginsAdded(contentsMargins());
   setGeometry(m_wantedGeometry);
-  if (isVisible()) {
-    m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);
-  }
+  m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);
 }
 
 /// A window manager that puts the window into a frame of its own moves that to its place later, and
@@ -178,8 +176,9 @@ void FloatingPanel::mousePressEvent(QMouseEvent *event) {
 
 void FloatingPanel::mouseMoveEvent(QMouseEvent *event) {
   if (m_isDragged) {
-    m_windowSystem.setGeometry(*windowHandle(),
-                               {event->globalPosition().toPoint() - m_dragOffset, size()});
+    const QPoint position = m_windowSystem.pointerPosition(*windowHandle(), *event);
+    m_windowSystem.setGeometry(*windowHandle(), {position - m_dragOffset, size()});
+    update(0, 0, 1, 1);  // a move needs no other picture
   }
 }
 

@@ -77,7 +77,7 @@ bool WindowEdgeResizer::press(const QMouseEvent &event) {
     return true;
   }
   m_resizing = true;
-  m_pressPosition = event.globalPosition().toPoint();
+  m_pressPosition = m_windowSystem.pointerPosition(m_window, event);
   // Where the window really is: what the window manager has done to it may not have been told yet.
   m_pressGeometry = QRect(m_pressPosition - event.position().toPoint(), m_window.size());
   return true;
@@ -85,8 +85,8 @@ bool WindowEdgeResizer::press(const QMouseEvent &event) {
 
 bool WindowEdgeResizer::move(const QMouseEvent &event) {
   if (m_resizing) {
-    m_windowSystem.setGeometry(m_window,
-                               resized(event.globalPosition().toPoint() - m_pressPosition));
+    const QPoint position = m_windowSystem.pointerPosition(m_window, event);
+    m_windowSystem.setGeometry(m_window, resized(position - m_pressPosition));
     return true;
   }
   const Qt::Edges edges =

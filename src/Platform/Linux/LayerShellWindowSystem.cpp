@@ -2,7 +2,9 @@
 
 #include "Platform/Linux/WaylandWindowSystems.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QPointer>
+#include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
 
 #include <LayerShellQt/Window>
@@ -11,10 +13,6 @@ namespace lanternix {
 namespace {
 
 using LayerWindow = LayerShellQt::Window;
-
-void setPosition(QWindow &window, QPoint position) {
-  LayerWindow::get(&window)->setMargins({position.x(), position.y(), 0, 0});
-}
 
 }  // namespace
 
@@ -33,16 +31,33 @@ void LayerShellWindowSystem::preparePanel(QWindow &window) {
   surface->setKeyboardInteractivity(LayerWindow::KeyboardInteractivityOnDemand);
   surface->setScreenConfiguration(LayerWindow::ScreenFromCompositor);
   surface->setAnchors({LayerWindow::AnchorLeft, LayerWindow::AnchorTop});
-  setPosition(window, window.position());
+  m_position = m_wanted;
+  window.installEventFilter(this);
 }
 
 void LayerShellWindowSystem::setGeometry(QWindow &window, const QRect &geometry) {
-  setPosition(window, geometry.topLeft());
+  m_wanted = geometry.topLeft();
+  LayerWindow::get(&window)->setMargins({m_wanted.x(), m_wanted.y(), 0, 0});
   window.resize(geometry.size());
-  // Until then the pointer is still told of from the old place.
-  m_shell->afterAllSent([window = QPointer(&window), position = geometry.topLeft()] {
-    if (window) {
-      window->setPosition(position);
+}
+
+QPoint LayerShellWindowSystem::pointerPosition(const QWindow & /*window*/,
+                                               const QMouseEvent &event) const {
+  return m_position + event.position().toPoint();
+}
+
+bool LayerShellWindowSystem::eventFilter(QObject * /*watched*/, QEvent *event) {
+  if (event->type() == QEvent::UpdateRequest && m_wanted != m_position) {
+    // Queued, because the picture is made and sent when this returns.
+    QMetaObject::invokeMethod(this, &LayerShellWindowSystem::notePlacing, Qt::QueuedConnection);
+  }
+  return false;
+}
+
+void LayerShellWindowSystem::notePlacing() {
+  m_shell->afterAllSent([self = QPointer(this), position = m_wanted] {
+    if (LayerShellWindowSystem *system = self.data()) {
+      system->m_position = position;
     }
   });
 }

@@ -4,6 +4,7 @@
 
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
@@ -31,6 +32,10 @@ bool QtWindowSystem::takeDrag(QWindow & /*window*/, Qt::Edges /*edges*/) {
 
 void QtWindowSystem::setGeometry(QWindow &window, const QRect &geometry) {
   window.setGeometry(geometry);
+}
+
+QPoint QtWindowSystem::pointerPosition(const QWindow & /*window*/, const QMouseEvent &event) const {
+  return event.globalPosition().toPoint();
 }
 
 bool QtWindowSystem::isComposited() const {

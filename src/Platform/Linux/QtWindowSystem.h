@@ -17,6 +17,7 @@ class QtWindowSystem : public WindowSystem {
   void activate(QWindow &window) override;
   bool takeDrag(QWindow &window, Qt::Edges edges) override;
   void setGeometry(QWindow &window, const QRect &geometry) override;
+  QPoint pointerPosition(const QWindow &window, const QMouseEvent &event) const override;
   bool isComposited() const override;
   void setFrame(QWindow &window, const Frame &frame) override;
 

@@ -56,8 +56,14 @@ class LayerPanelTest : public testing::TestWithParam<Compositor> {
   bool becomesHidden() const {
     return waitUntil([this] { return !isShown(); });
   }
-  bool becomes(const QRect &expected) const {
-    return waitUntil([&] { return frame() == expected; });
+  /// Whether the panel gets there; says where it is instead.
+  testing::AssertionResult becomes(const QRect &expected) const {
+    if (waitUntil([&] { return frame() == expected; })) {
+      return testing::AssertionSuccess();
+    }
+    const QRect now = frame();
+    return testing::AssertionFailure() << "the panel is at " << now.x() << ',' << now.y() << ' '
+                                       << now.width() << 'x' << now.height();
   }
 
   /// In the middle of what the bars leave, 60 pixels up.

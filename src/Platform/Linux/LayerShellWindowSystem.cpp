@@ -55,9 +55,15 @@ bool LayerShellWindowSystem::eventFilter(QObject * /*watched*/, QEvent *event) {
 }
 
 void LayerShellWindowSystem::notePlacing() {
-  m_shell->afterAllSent([self = QPointer(this), position = m_wanted] {
+  const auto note = [self = QPointer(this), position = m_wanted] {
     if (LayerShellWindowSystem *system = self.data()) {
       system->m_position = position;
+    }
+  };
+  // Some compositors place their surfaces only when they have dealt with all requests that wait.
+  m_shell->afterAllSent([self = QPointer(this), note] {
+    if (LayerShellWindowSystem *system = self.data()) {
+      system->m_shell->afterAllSent(note);
     }
   });
 }

@@ -163,9 +163,14 @@ TEST_P(LayerPanelTest, LeftTopCorner_LeavesTheOppositeOneWhereItIs) {
 
 TEST_P(LayerPanelTest, ContextMenu_LeavesThePanelShown_AndIsUsable) {
   start();
+  const QImage before = session->picture();
   input().click(frame().topLeft() + QPoint(200, 150), BTN_RIGHT);
+  ASSERT_TRUE(waitUntil([&] { return session->picture() != before; }));
   savePicture(u"menu"_s);
   EXPECT_TRUE(isShown());
+  input().tap(KEY_DOWN);
+  input().tap(KEY_ENTER);
+  EXPECT_TRUE(waitUntil([this] { return !session->home().item(u"build Copy"_s).isEmpty(); }));
 }
 
 TEST_P(LayerPanelTest, PressOutside_HidesThePanel) {
@@ -176,8 +181,12 @@ TEST_P(LayerPanelTest, PressOutside_HidesThePanel) {
 
 TEST_P(LayerPanelTest, SettingsFromThePanel_HaveTheKeyboard) {
   start();
+  const QRect panel = frame();
   input().tap(KEY_COMMA, {KEY_LEFTCTRL});
+  ASSERT_TRUE(waitUntil([&] { return isShown() && frame() != panel; }));
   savePicture(u"settings"_s);
+  input().tap(KEY_W, {KEY_LEFTCTRL});
+  EXPECT_TRUE(becomesHidden());
 }
 
 INSTANTIATE_TEST_SUITE_P(On, LayerPanelTest, testing::Values(Compositor::sway, Compositor::kwin),

@@ -5,15 +5,6 @@
 
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
-#include <QtDBus/QDBusArgument>
-#include <QtDBus/QDBusConnection>
-#include <QtDBus/QDBusMessage>
-#include <QtDBus/QDBusPendingCall>
-#include <QtDBus/QDBusUnixFileDescriptor>
-
-#include <array>
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace lanternix {
 
@@ -29,12 +20,6 @@ QString programOf(LayerSession::Compositor compositor) {
 
 QString packageOf(LayerSession::Compositor compositor) {
   return compositor == LayerSession::Compositor::sway ? u"sway"_s : u"kwin-wayland"_s;
-}
-
-/// As many bytes as somebody else writes to \p file until its end.
-QByteArray readToEnd(int file) {
-  QFile pipe;
-  return pipe.open(file, QIODevice::ReadOnly) ? pipe.readAll() : QByteArray();
 }
 
 }  // namespace
@@ -74,15 +59,19 @@ void LayerSession::startSway(int scale) {
   m_process.start({u"-c"_s, configuration}, environment);
 }
 
+// It draws into a window of an X server, since it gives no pictures of its own without a graphics
+// card.
 void LayerSession::startKWin(int scale) {
   m_display = u"wayland-kwin"_s;
+  m_host = std::make_unique<VirtualDisplay>(screenSize * scale);
+  m_hostWindows = std::make_unique<WindowProbe>(m_host->name());
   QProcessEnvironment environment = m_home.variables();
+  environment.insert(u"DISPLAY"_s, m_host->name());
   environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_bus.address());
   environment.insert(u"KWIN_WAYLAND_NO_PERMISSION_CHECKS"_s, u"1"_s);
-  environment.insert(u"KWIN_SCREENSHOT_NO_PERMISSION_CHECKS"_s, u"1"_s);
   m_process.start(
-      {u"--virtual"_s, u"--width"_s, QString::number(screenSize.width() * scale), u"--height"_s,
-       QString::number(screenSize.height() * scale), u"--scale"_s, QString::number(scale),
+      {u"--x11-display"_s, m_host->name(), u"--width"_s, QString::number(screenSize.width()),
+       u"--height"_s, QString::number(screenSize.height()), u"--scale"_s, QString::number(scale),
        u"--no-lockscreen"_s, u"--no-global-shortcuts"_s, u"--socket"_s, m_display},
       environment);
 }
@@ -102,7 +91,7 @@ QProcessEnvironment LayerSession::variables() const {
 }
 
 QImage LayerSession::picture() const {
-  return m_kind == Compositor::sway ? swayPicture() : kwinPicture();
+  return m_kind == Compositor::sway ? swayPicture() : m_hostWindows->grabRoot();
 }
 
 QImage LayerSession::swayPicture() const {
@@ -114,42 +103,6 @@ QImage LayerSession::swayPicture() const {
                        QString::fromUtf8(grim.readAllStandardError()));
   }
   return QImage::fromData(grim.readAllStandardOutput(), "PPM");
-}
-
-QImage LayerSession::kwinPicture() const {
-  const auto bus = QDBusConnection::connectToBus(m_bus.address(), u"kwin"_s);
-  auto call = QDBusMessage::createMethodCall(u"org.kde.KWin"_s, u"/org/kde/KWin/ScreenShot2"_s,
-                                             u"org.kde.KWin.ScreenShot2"_s, u"CaptureWorkspace"_s);
-  std::array<int, 2> ends{};
-  if (pipe2(ends.data(), O_CLOEXEC) != 0) {
-    throw HarnessError(u"no pipe for the picture"_s);
-  }
-  {
-    const QDBusUnixFileDescriptor sink(ends[1]);
-    close(ends[1]);
-    call.setArguments({QVariantMap{{u"native-resolution"_s, true}}, QVariant::fromValue(sink)});
-  }
-  const QDBusPendingCall pending = bus.asyncCall(call);
-  call.setArguments({});
-  QDBusMessage reply = pending.reply();
-  require(u"the compositor's picture"_s, [&] { return pending.isFinished(); });
-  reply = pending.reply();
-  if (reply.type() != QDBusMessage::ReplyMessage) {
-    close(ends[0]);
-    throw HarnessError(u"no picture of the screen: "_s + reply.errorMessage());
-  }
-  const QByteArray pixels = readToEnd(ends[0]);
-  close(ends[0]);
-  const auto about = qdbus_cast<QVariantMap>(reply.arguments().constFirst());
-  const int width = about[u"width"_s].toInt();
-  const int height = about[u"height"_s].toInt();
-  const int stride = about[u"stride"_s].toInt();
-  if (pixels.size() < qsizetype{stride} * height) {
-    throw HarnessError(u"the picture of the screen is not whole"_s);
-  }
-  return QImage(reinterpret_cast<const uchar *>(pixels.constData()), width, height, stride,
-                static_cast<QImage::Format>(about[u"format"_s].toInt()))
-      .copy();
 }
 
 }  // namespace lanternix

@@ -4,6 +4,8 @@
 #include "support/ChildProcess.h"
 #include "support/ProgramEnvironment.h"
 #include "support/SessionBus.h"
+#include "support/VirtualDisplay.h"
+#include "support/WindowProbe.h"
 
 #include <QtGui/QImage>
 
@@ -38,12 +40,14 @@ class LayerSession {
   void startKWin(int scale);
   QString socket() const { return m_home.path(QStringLiteral("run/") + m_display); }
   QImage swayPicture() const;
-  QImage kwinPicture() const;
 
   Compositor m_kind;
   ProgramEnvironment m_home;
   SessionBus m_bus;
   QString m_display;
+  /// Where KWin draws its screen.
+  std::unique_ptr<VirtualDisplay> m_host;
+  std::unique_ptr<WindowProbe> m_hostWindows;
   ChildProcess m_process;
   std::unique_ptr<WaylandInput> m_input;
 };

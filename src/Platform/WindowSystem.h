@@ -34,15 +34,16 @@ class WindowSystem : public QObject {
   /// manager guards against focus stealing: call it only in answer to an action of the user.
   virtual void activate(QWindow &window) = 0;
 
-  /// Lets the window system itself resize \p window by the \p edges that the mouse has just
-  /// pressed, or move it when those are none. False where that is left to the program.
-  virtual bool takeDrag(QWindow &window, Qt::Edges edges) = 0;
+  /// Begins a drag by the mouse, which has just been pressed at \p position in \p window: of its
+  /// \p edges, or of all of it when those are none. True when the window system carries it out;
+  /// else the program follows pointerPosition() and calls setGeometry().
+  virtual bool takeDrag(QWindow &window, Qt::Edges edges, QPoint position) = 0;
 
   /// Moves and resizes \p window, some window systems only with the next picture that it gets.
   virtual void setGeometry(QWindow &window, const QRect &geometry) = 0;
 
-  /// Where the mouse was at \p event of \p window, in the coordinates of windows' geometries.
-  virtual QPoint pointerPosition(const QWindow &window, const QMouseEvent &event) const = 0;
+  /// Where the mouse was at an \p event of a drag, in the coordinates of windows' geometries.
+  virtual QPoint pointerPosition(const QMouseEvent &event) const = 0;
 
   /// Whether windows are blended with what is below them, so that they may have soft edges.
   virtual bool isComposited() const = 0;

@@ -170,14 +170,15 @@ void FloatingPanel::updateShape() {
 // A press that no view wants reaches the window: it is the background.
 
 void FloatingPanel::mousePressEvent(QMouseEvent *event) {
-  m_isDragged = event->button() == Qt::LeftButton && !m_windowSystem.takeDrag(*windowHandle(), {});
   m_dragOffset = event->position().toPoint();
+  m_isDragged = event->button() == Qt::LeftButton &&
+                !m_windowSystem.takeDrag(*windowHandle(), {}, m_dragOffset);
 }
 
 void FloatingPanel::mouseMoveEvent(QMouseEvent *event) {
   if (m_isDragged) {
-    const QPoint position = m_windowSystem.pointerPosition(*windowHandle(), *event);
-    m_windowSystem.setGeometry(*windowHandle(), {position - m_dragOffset, size()});
+    const QPoint position = m_windowSystem.pointerPosition(*event) - m_dragOffset;
+    m_windowSystem.setGeometry(*windowHandle(), {position, size()});
     update(0, 0, 1, 1);  // a move needs no other picture
   }
 }

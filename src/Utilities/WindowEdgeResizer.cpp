@@ -73,11 +73,11 @@ bool WindowEdgeResizer::press(const QMouseEvent &event) {
   if (event.button() != Qt::LeftButton || m_edges == Qt::Edges{}) {
     return false;
   }
-  if (m_windowSystem.takeDrag(m_window, m_edges)) {
+  if (m_windowSystem.takeDrag(m_window, m_edges, event.position().toPoint())) {
     return true;
   }
   m_resizing = true;
-  m_pressPosition = m_windowSystem.pointerPosition(m_window, event);
+  m_pressPosition = m_windowSystem.pointerPosition(event);
   // Where the window really is: what the window manager has done to it may not have been told yet.
   m_pressGeometry = QRect(m_pressPosition - event.position().toPoint(), m_window.size());
   return true;
@@ -85,7 +85,7 @@ bool WindowEdgeResizer::press(const QMouseEvent &event) {
 
 bool WindowEdgeResizer::move(const QMouseEvent &event) {
   if (m_resizing) {
-    const QPoint position = m_windowSystem.pointerPosition(m_window, event);
+    const QPoint position = m_windowSystem.pointerPosition(event);
     m_windowSystem.setGeometry(m_window, resized(position - m_pressPosition));
     return true;
   }

@@ -6,7 +6,7 @@ struct wl_interface;
 
 namespace lanternix {
 
-/// The layer shell's objects as the Wayland library wants them described: names, numbers and
+/// Objects of the layer shell as the Wayland library wants them described: names, numbers and
 /// signatures of the protocol's first version.
 namespace LayerShellProtocol {
 

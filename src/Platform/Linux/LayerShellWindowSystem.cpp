@@ -2,9 +2,6 @@
 
 #include "Platform/Linux/WaylandWindowSystems.h"
 
-#include <QtCore/QEvent>
-#include <QtCore/QPointer>
-#include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
 
 #include <LayerShellQt/Window>
@@ -31,41 +28,25 @@ void LayerShellWindowSystem::preparePanel(QWindow &window) {
   surface->setKeyboardInteractivity(LayerWindow::KeyboardInteractivityOnDemand);
   surface->setScreenConfiguration(LayerWindow::ScreenFromCompositor);
   surface->setAnchors({LayerWindow::AnchorLeft, LayerWindow::AnchorTop});
-  m_position = m_wanted;
-  window.installEventFilter(this);
+}
+
+void LayerShellWindowSystem::prepareHiding(QWindow & /*window*/) {
+  m_drag.stop();
+}
+
+bool LayerShellWindowSystem::takeDrag(QWindow & /*window*/, Qt::Edges /*edges*/, QPoint position) {
+  m_pressed = m_position + position;
+  return !m_drag.start();
 }
 
 void LayerShellWindowSystem::setGeometry(QWindow &window, const QRect &geometry) {
-  m_wanted = geometry.topLeft();
-  LayerWindow::get(&window)->setMargins({m_wanted.x(), m_wanted.y(), 0, 0});
+  m_position = geometry.topLeft();
+  LayerWindow::get(&window)->setMargins({m_position.x(), m_position.y(), 0, 0});
   window.resize(geometry.size());
 }
 
-QPoint LayerShellWindowSystem::pointerPosition(const QWindow & /*window*/,
-                                               const QMouseEvent &event) const {
-  return m_position + event.position().toPoint();
-}
-
-bool LayerShellWindowSystem::eventFilter(QObject * /*watched*/, QEvent *event) {
-  if (event->type() == QEvent::UpdateRequest && m_wanted != m_position) {
-    // Queued, because the picture is made and sent when this returns.
-    QMetaObject::invokeMethod(this, &LayerShellWindowSystem::notePlacing, Qt::QueuedConnection);
-  }
-  return false;
-}
-
-void LayerShellWindowSystem::notePlacing() {
-  const auto note = [self = QPointer(this), position = m_wanted] {
-    if (LayerShellWindowSystem *system = self.data()) {
-      system->m_position = position;
-    }
-  };
-  // Some compositors place their surfaces only when they have dealt with all requests that wait.
-  m_shell->afterAllSent([self = QPointer(this), note] {
-    if (LayerShellWindowSystem *system = self.data()) {
-      system->m_shell->afterAllSent(note);
-    }
-  });
+QPoint LayerShellWindowSystem::pointerPosition(const QMouseEvent & /*event*/) const {
+  return m_pressed + m_drag.travelled().toPoint();
 }
 
 std::unique_ptr<WindowSystem> makeLayerShellWindowSystem() {

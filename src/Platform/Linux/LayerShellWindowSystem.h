@@ -2,12 +2,13 @@
 
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Platform/Linux/WaylandLayerShell.h"
+#include "Platform/Linux/WaylandPointerTravel.h"
 
 namespace lanternix {
 
 /// Makes the panel a surface of the compositor's layer shell: above everything, in no list of
 /// windows, with the keyboard, and where the program wants it, which Wayland grants to no ordinary
-/// window. Its geometry counts from the corner of the work area.
+/// window. Its geometry counts from the corner of the work area; Qt itself keeps no positions.
 class LayerShellWindowSystem : public QtWindowSystem {
   Q_OBJECT
 
@@ -16,20 +17,18 @@ class LayerShellWindowSystem : public QtWindowSystem {
 
   QRect workArea() const override;
   void preparePanel(QWindow &window) override;
+  void prepareHiding(QWindow &window) override;
+  /// Takes a drag of which it would not hear how far it goes, and does nothing.
+  bool takeDrag(QWindow &window, Qt::Edges edges, QPoint position) override;
   void setGeometry(QWindow &window, const QRect &geometry) override;
-  QPoint pointerPosition(const QWindow &window, const QMouseEvent &event) const override;
-
- protected:
-  bool eventFilter(QObject *watched, QEvent *event) override;
+  QPoint pointerPosition(const QMouseEvent &event) const override;
 
  private:
-  void notePlacing();
-
   const std::unique_ptr<WaylandLayerShell> m_shell;
-  /// Where the panel is to be, and where the compositor has it as far as the events tell that have
-  /// been heard of: it places the panel with a picture, and Qt keeps no positions.
-  QPoint m_wanted;
+  WaylandPointerTravel m_drag;
   QPoint m_position;
+  /// Where the mouse was pressed.
+  QPoint m_pressed;
 };
 
 }  // namespace lanternix

@@ -26,7 +26,7 @@ void QtWindowSystem::preparePanel(QWindow & /*window*/) {}
 
 void QtWindowSystem::prepareHiding(QWindow & /*window*/) {}
 
-bool QtWindowSystem::takeDrag(QWindow & /*window*/, Qt::Edges /*edges*/) {
+bool QtWindowSystem::takeDrag(QWindow & /*window*/, Qt::Edges /*edges*/, QPoint /*position*/) {
   return false;
 }
 
@@ -34,7 +34,7 @@ void QtWindowSystem::setGeometry(QWindow &window, const QRect &geometry) {
   window.setGeometry(geometry);
 }
 
-QPoint QtWindowSystem::pointerPosition(const QWindow & /*window*/, const QMouseEvent &event) const {
+QPoint QtWindowSystem::pointerPosition(const QMouseEvent &event) const {
   return event.globalPosition().toPoint();
 }
 

@@ -15,9 +15,9 @@ class QtWindowSystem : public WindowSystem {
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
-  bool takeDrag(QWindow &window, Qt::Edges edges) override;
+  bool takeDrag(QWindow &window, Qt::Edges edges, QPoint position) override;
   void setGeometry(QWindow &window, const QRect &geometry) override;
-  QPoint pointerPosition(const QWindow &window, const QMouseEvent &event) const override;
+  QPoint pointerPosition(const QMouseEvent &event) const override;
   bool isComposited() const override;
   void setFrame(QWindow &window, const Frame &frame) override;
 

@@ -12,7 +12,7 @@ void WaylandWindowSystem::preparePanel(QWindow &window) {
           Qt::UniqueConnection);
 }
 
-bool WaylandWindowSystem::takeDrag(QWindow &window, Qt::Edges edges) {
+bool WaylandWindowSystem::takeDrag(QWindow &window, Qt::Edges edges, QPoint /*position*/) {
   return edges == Qt::Edges{} ? window.startSystemMove() : window.startSystemResize(edges);
 }
 

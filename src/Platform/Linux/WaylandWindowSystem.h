@@ -15,7 +15,7 @@ class WaylandWindowSystem : public QtWindowSystem {
  public:
   /// Lets \p window float where windows are tiled.
   void preparePanel(QWindow &window) override;
-  bool takeDrag(QWindow &window, Qt::Edges edges) override;
+  bool takeDrag(QWindow &window, Qt::Edges edges, QPoint position) override;
 
  private:
   void fixSize(QWindow &window);

@@ -10,6 +10,7 @@
 #include <cstring>
 #include <sys/mman.h>
 #include <unistd.h>
+#include <utility>
 #include <wayland-client.h>
 
 namespace lanternix {
@@ -164,6 +165,18 @@ void WaylandInput::moveTo(QPoint position) {
   sync();
 }
 
+void WaylandInput::moveBy(QPoint distance) {
+  const wl_fixed_t x = wl_fixed_from_int(distance.x());
+  const wl_fixed_t y = wl_fixed_from_int(distance.y());
+  if (m_objects->fakeInput != nullptr) {
+    request(m_objects->fakeInput, InputProtocols::pointerMotion, nullptr, x, y);
+  } else {
+    request(m_objects->pointer, InputProtocols::motion, nullptr, ++m_time, x, y);
+    request(m_objects->pointer, InputProtocols::frame, nullptr);
+  }
+  sync();
+}
+
 void WaylandInput::pressButton(int button) {
   this->button(button, true);
 }
@@ -182,8 +195,10 @@ void WaylandInput::drag(QPoint from, QPoint to) {
   constexpr int steps = 20;
   moveTo(from);
   pressButton();
+  QPoint moved;
   for (int step = 1; step <= steps; ++step) {
-    moveTo(from + (to - from) * step / steps);
+    const QPoint wanted = (to - from) * step / steps;
+    moveBy(wanted - std::exchange(moved, wanted));
     QThread::msleep(2);  // a quick hand
   }
   releaseButton();

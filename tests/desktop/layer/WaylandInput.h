@@ -30,6 +30,8 @@ class WaylandInput {
   void pressButton(int button = BTN_LEFT);
   void releaseButton(int button = BTN_LEFT);
   void click(QPoint position, int button = BTN_LEFT);
+  /// Moves by that far, as a mouse tells it.
+  void moveBy(QPoint distance);
   /// Moves with the left button held, by steps as a hand does, and lets go.
   void drag(QPoint from, QPoint to);
 

@@ -2,7 +2,7 @@
 
 #include "Platform/Linux/WaylandWindowSystems.h"
 
-#include <QtGui/QWindow>
+#include <QtGui/QGuiApplication>
 
 #include <LayerShellQt/Window>
 
@@ -14,7 +14,9 @@ using LayerWindow = LayerShellQt::Window;
 }  // namespace
 
 LayerShellWindowSystem::LayerShellWindowSystem(std::unique_ptr<WaylandLayerShell> shell)
-    : m_shell(std::move(shell)) {}
+    : m_shell(std::move(shell)) {
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &LayerShellWindowSystem::closeOn);
+}
 
 QRect LayerShellWindowSystem::workArea() const {
   const std::optional<QSize> size = m_shell->usableSize();
@@ -23,11 +25,19 @@ QRect LayerShellWindowSystem::workArea() const {
 
 void LayerShellWindowSystem::preparePanel(QWindow &window) {
   LayerWindow *surface = LayerWindow::get(&window);
+  m_panel = &window;
   surface->setLayer(LayerWindow::LayerOverlay);
   surface->setScope(QStringLiteral("lanternix"));
   surface->setKeyboardInteractivity(LayerWindow::KeyboardInteractivityOnDemand);
   surface->setScreenConfiguration(LayerWindow::ScreenFromCompositor);
   surface->setAnchors({LayerWindow::AnchorLeft, LayerWindow::AnchorTop});
+}
+
+/// The surface goes with its screen, and not every compositor says so.
+void LayerShellWindowSystem::closeOn(const QScreen *screen) {
+  if (m_panel && m_panel->isVisible() && m_panel->screen() == screen) {
+    m_panel->close();
+  }
 }
 
 void LayerShellWindowSystem::prepareHiding(QWindow & /*window*/) {

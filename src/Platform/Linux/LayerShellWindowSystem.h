@@ -4,6 +4,9 @@
 #include "Platform/Linux/WaylandLayerShell.h"
 #include "Platform/Linux/WaylandPointerTravel.h"
 
+#include <QtCore/QPointer>
+#include <QtGui/QWindow>
+
 namespace lanternix {
 
 /// Makes the panel a surface of the compositor's layer shell: above everything, in no list of
@@ -24,8 +27,11 @@ class LayerShellWindowSystem : public QtWindowSystem {
   QPoint pointerPosition(const QMouseEvent &event) const override;
 
  private:
+  void closeOn(const QScreen *screen);
+
   const std::unique_ptr<WaylandLayerShell> m_shell;
   WaylandPointerTravel m_drag;
+  QPointer<QWindow> m_panel;
   QPoint m_position;
   /// Where the mouse was pressed.
   QPoint m_pressed;

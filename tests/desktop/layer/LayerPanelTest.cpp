@@ -1,3 +1,4 @@
+#include "desktop/PortalService.h"
 #include "desktop/layer/LayerSession.h"
 #include "desktop/layer/PanelOnScreen.h"
 #include "support/HarnessError.h"
@@ -24,12 +25,16 @@ class LayerPanelTest : public testing::TestWithParam<Compositor> {
     if (!preferences.isEmpty()) {
       session->home().writePreferences(preferences);
     }
+    writeGroups();
+    program = run();
+    require(u"the panel"_s, [this] { return isShown(); });
+  }
+
+  void writeGroups() {
     SampleGroups groups;
     groups.group(u"Commands"_s);
     groups.command(u"build"_s, marking(u"build"_s)).command(u"deploy"_s, marking(u"deploy"_s));
     ProgramEnvironment::write(session->home().dataFile(), groups.json());
-    program = run();
-    require(u"the panel"_s, [this] { return isShown(); });
   }
 
   std::unique_ptr<ChildProcess> run() {
@@ -174,6 +179,42 @@ TEST_P(LayerPanelTest, ContextMenu_LeavesThePanelShown_AndIsUsable) {
   input().tap(KEY_DOWN);
   input().tap(KEY_ENTER);
   EXPECT_TRUE(waitUntil([this] { return !session->home().item(u"build Copy"_s).isEmpty(); }));
+}
+
+TEST_P(LayerPanelTest, UnpluggedScreen_HidesThePanel_WhichComesBackOnAnother) {
+  if (GetParam() == Compositor::kwin) {
+    GTEST_SKIP() << "inside another screen, this compositor has but one";
+  }
+  start();
+  input().tap(KEY_ESC);
+  ASSERT_TRUE(becomesHidden());
+  session->plugScreen();
+  showAgain();
+  session->unplugScreen();
+  ASSERT_TRUE(becomesHidden());
+  showAgain();
+  EXPECT_EQ(frame(), centred({700, 500}));
+}
+
+TEST_P(LayerPanelTest, DarkDesktop_MakesPanelMenuAndSettingsDark) {
+  session = std::make_unique<LayerSession>(GetParam());
+  PortalService portal(session->bus().address(),
+                       {{u"org.freedesktop.appearance"_s, {{u"color-scheme"_s, 1U}}}});
+  writeGroups();
+  program = run();
+  const QRect panel = centred({700, 500});
+  const auto ground = [&] { return session->picture().pixelColor(panel.center()); };
+  EXPECT_TRUE(waitUntil([&] { return qGray(ground().rgb()) > 30 && qGray(ground().rgb()) < 60; }));
+  savePicture(u"panel-dark"_s);
+  const QImage before = session->picture();
+  input().click(panel.topLeft() + QPoint(200, 150), BTN_RIGHT);
+  EXPECT_TRUE(waitUntil([&] { return session->picture() != before; }));
+  savePicture(u"menu-dark"_s);
+  input().tap(KEY_ESC);
+  input().tap(KEY_COMMA, {KEY_LEFTCTRL});
+  EXPECT_TRUE(
+      waitUntil([&] { return ground() == QColor(0x262629) || ground() == QColor(0x1E1E1E); }));
+  savePicture(u"settings-dark"_s);
 }
 
 TEST_P(LayerPanelTest, PressOutside_HidesThePanel) {

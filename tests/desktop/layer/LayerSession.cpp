@@ -53,6 +53,7 @@ void LayerSession::startSway(int scale) {
           .arg(barHeight)
           .toUtf8());
   QProcessEnvironment environment = m_home.variables();
+  environment.insert(u"SWAYSOCK"_s, swaySocket());
   environment.insert(u"WLR_BACKENDS"_s, u"headless"_s);
   environment.insert(u"WLR_LIBINPUT_NO_DEVICES"_s, u"1"_s);
   environment.insert(u"WLR_RENDERER"_s, u"pixman"_s);
@@ -86,6 +87,7 @@ QProcessEnvironment LayerSession::variables() const {
   variables.insert(u"XDG_SESSION_TYPE"_s, u"wayland"_s);
   variables.insert(u"WAYLAND_DISPLAY"_s, m_display);
   variables.insert(u"QT_QPA_PLATFORM"_s, u"wayland"_s);
+  variables.insert(u"SWAYSOCK"_s, swaySocket());
   variables.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_bus.address());
   return variables;
 }
@@ -94,15 +96,27 @@ QImage LayerSession::picture() const {
   return m_kind == Compositor::sway ? swayPicture() : m_hostWindows->grabRoot();
 }
 
+void LayerSession::plugScreen() const {
+  run(u"swaymsg"_s, {u"create_output"_s});
+  run(u"swaymsg"_s, {u"focus output HEADLESS-2"_s});
+}
+
+void LayerSession::unplugScreen() const {
+  run(u"swaymsg"_s, {u"output HEADLESS-2 unplug"_s});
+}
+
 QImage LayerSession::swayPicture() const {
-  QProcess grim;
-  grim.setProcessEnvironment(variables());
-  grim.start(u"grim"_s, {u"-t"_s, u"ppm"_s, u"-"_s});
-  if (!grim.waitForFinished() || grim.exitCode() != 0) {
-    throw HarnessError(u"no picture of the screen: "_s +
-                       QString::fromUtf8(grim.readAllStandardError()));
+  return QImage::fromData(run(u"grim"_s, {u"-t"_s, u"ppm"_s, u"-"_s}), "PPM");
+}
+
+QByteArray LayerSession::run(const QString &program, const QStringList &arguments) const {
+  QProcess process;
+  process.setProcessEnvironment(variables());
+  process.start(program, arguments);
+  if (!process.waitForFinished() || process.exitCode() != 0) {
+    throw HarnessError(u"%1: %2"_s.arg(program, QString::fromUtf8(process.readAllStandardError())));
   }
-  return QImage::fromData(grim.readAllStandardOutput(), "PPM");
+  return process.readAllStandardOutput();
 }
 
 }  // namespace lanternix

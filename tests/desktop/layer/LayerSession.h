@@ -32,14 +32,21 @@ class LayerSession {
   /// The variables of programs in this session, which are told to speak Wayland.
   QProcessEnvironment variables() const;
 
-  /// A picture of the screen, in real pixels.
+  /// Plugs in a second screen of the same size and goes there. Sway only.
+  void plugScreen() const;
+  /// Unplugs it again.
+  void unplugScreen() const;
+
+  /// A picture of the screen, in real pixels; of both side by side, while there are two.
   QImage picture() const;
 
  private:
   void startSway(int scale);
   void startKWin(int scale);
+  QString swaySocket() const { return m_home.path(QStringLiteral("run/sway.sock")); }
   QString socket() const { return m_home.path(QStringLiteral("run/") + m_display); }
   QImage swayPicture() const;
+  QByteArray run(const QString &program, const QStringList &arguments) const;
 
   Compositor m_kind;
   ProgramEnvironment m_home;

@@ -25,7 +25,7 @@ Run longestRun(int count, IsBright isBright) {
 
 QRect panelOnScreen(const QImage &picture, QSize screen) {
   constexpr int leastBrightness = 200;
-  constexpr int smallestSide = 250;  // logical pixels; smaller is some other window
+  constexpr int smallestSide = 200;  // logical pixels; smaller is some other window
   const auto isBright = [&](int x, int y) { return qGray(picture.pixel(x, y)) >= leastBrightness; };
   if (picture.isNull()) {
     return {};

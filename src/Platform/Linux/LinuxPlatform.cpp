@@ -1,4 +1,5 @@
 #include "Platform/Clock.h"
+#include "Platform/Linux/ActivationMouseMonitor.h"
 #include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/BusSingleInstance.h"
 #include "Platform/Linux/DesktopTray.h"
@@ -93,11 +94,9 @@ class X11Platform : public LinuxPlatform {
   X11WindowSystem m_windowSystem{m_server, m_eventTime};
 };
 
-/// Where windows are the only thing that the window system has for us.
-class PlainPlatform : public LinuxPlatform {
+/// A program that speaks to the Wayland compositor itself.
+class WaylandPlatform : public LinuxPlatform {
  public:
-  explicit PlainPlatform(std::unique_ptr<WindowSystem> windowSystem)
-      : m_windowSystem(std::move(windowSystem)) {}
   WindowSystem &windowSystem() override { return *m_windowSystem; }
   GlobalMouseMonitor &mouseMonitor() override { return m_mouseMonitor; }
 
@@ -106,8 +105,23 @@ class PlainPlatform : public LinuxPlatform {
 
  private:
   NullHotkeyRegistrar m_hotkeyRegistrar;
+  ActivationMouseMonitor m_mouseMonitor;
+  const std::unique_ptr<WindowSystem> m_windowSystem = makeWaylandWindowSystem();
+};
+
+/// Where the window system is none that we know more of than Qt does.
+class PlainPlatform : public LinuxPlatform {
+ public:
+  WindowSystem &windowSystem() override { return m_windowSystem; }
+  GlobalMouseMonitor &mouseMonitor() override { return m_mouseMonitor; }
+
+ protected:
+  HotkeyRegistrar &hotkeyRegistrar() override { return m_hotkeyRegistrar; }
+
+ private:
+  NullHotkeyRegistrar m_hotkeyRegistrar;
   NullGlobalMouseMonitor m_mouseMonitor;
-  const std::unique_ptr<WindowSystem> m_windowSystem;
+  QtWindowSystem m_windowSystem;
 };
 
 }  // namespace
@@ -116,9 +130,10 @@ std::unique_ptr<Platform> Platform::create() {
   if (QGuiApplication::platformName() == "xcb"_L1) {
     return std::make_unique<X11Platform>();
   }
-  return std::make_unique<PlainPlatform>(QGuiApplication::platformName().startsWith("wayland"_L1)
-                                             ? makeWaylandWindowSystem()
-                                             : std::make_unique<QtWindowSystem>());
+  if (QGuiApplication::platformName().startsWith("wayland"_L1)) {
+    return std::make_unique<WaylandPlatform>();
+  }
+  return std::make_unique<PlainPlatform>();
 }
 
 std::unique_ptr<SingleInstance> makeSingleInstance() {

@@ -1,6 +1,6 @@
 #include "Platform/Linux/LayerShellWindowSystem.h"
 
-#include "Platform/Linux/WaylandWindowSystems.h"
+#include "Platform/Linux/WaylandWindowSystemFactory.h"
 
 #include <QtGui/QGuiApplication>
 
@@ -28,6 +28,8 @@ void LayerShellWindowSystem::preparePanel(QWindow &window) {
   m_panel = &window;
   surface->setLayer(LayerWindow::LayerOverlay);
   surface->setScope(QStringLiteral("lanternix"));
+  // With which a surface of this layer gets the keyboard as it comes up, and lets go of it when
+  // another window is pressed.
   surface->setKeyboardInteractivity(LayerWindow::KeyboardInteractivityOnDemand);
   surface->setScreenConfiguration(LayerWindow::ScreenFromCompositor);
   surface->setAnchors({LayerWindow::AnchorLeft, LayerWindow::AnchorTop});

@@ -12,7 +12,7 @@
 #include "Platform/Linux/SignalTerminationMonitor.h"
 #include "Platform/Linux/SpawnProcessLauncher.h"
 #include "Platform/Linux/StatusNotifierHost.h"
-#include "Platform/Linux/WaylandWindowSystems.h"
+#include "Platform/Linux/WaylandWindowSystemFactory.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
 #include "Platform/Linux/X11SelectionWatch.h"

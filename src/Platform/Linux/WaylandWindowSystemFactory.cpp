@@ -1,4 +1,4 @@
-#include "Platform/Linux/WaylandWindowSystems.h"
+#include "Platform/Linux/WaylandWindowSystemFactory.h"
 
 #include "Platform/Linux/WaylandWindowSystem.h"
 

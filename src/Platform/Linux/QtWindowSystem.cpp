@@ -31,7 +31,9 @@ bool QtWindowSystem::takeDrag(QWindow & /*window*/, Qt::Edges /*edges*/, QPoint 
 }
 
 void QtWindowSystem::setGeometry(QWindow &window, const QRect &geometry) {
-  window.setGeometry(geometry);
+  if (window.geometry() != geometry) {
+    window.setGeometry(geometry);
+  }
 }
 
 QPoint QtWindowSystem::pointerPosition(const QMouseEvent &event) const {

@@ -11,7 +11,6 @@
 #include "Views/Settings/SettingsView.h"
 
 #include <QtGui/QKeyEvent>
-#include <QtGui/QScreen>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 
@@ -94,8 +93,9 @@ void AppDelegate::showPanel() {
     return;
   }
   m_firstShow.stop();  // it would bring back what may be hidden by then
-  if (const QScreen *screen = m_windowSystem.activeScreen()) {
-    m_panel->setFrame(panelFrame(screen->availableGeometry()));
+  const QRect workArea = m_windowSystem.workArea();
+  if (!workArea.isNull()) {
+    m_panel->setFrame(panelFrame(workArea));
   }
   m_panel->makeKeyAndOrderFront();
   m_appState.setPanelVisible(true);

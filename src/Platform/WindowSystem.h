@@ -2,9 +2,9 @@
 
 #include <QtCore/QMargins>
 #include <QtCore/QObject>
-#include <QtCore/QSize>
+#include <QtCore/QRect>
 
-class QScreen;
+class QMouseEvent;
 class QWindow;
 
 namespace lanternix {
@@ -19,9 +19,9 @@ class WindowSystem : public QObject {
   WindowSystem();
   ~WindowSystem() override;
 
-  /// The screen that holds the active window, else the one under the pointer, else the primary
-  /// one. Null only without any screen.
-  virtual QScreen *activeScreen() const = 0;
+  /// Where a panel that is shown now may go: what the desktop's own bars leave of the screen that
+  /// the user works on, in the coordinates of windows' geometries. Null only without any screen.
+  virtual QRect workArea() const = 0;
 
   /// The program is about to answer a request of the user's that came with \p token: by the next
   /// activate(), or by the next prepareHiding(). The answer uses the token up.
@@ -39,6 +39,17 @@ class WindowSystem : public QObject {
   /// Brings the shown \p window to the front and gives it the keyboard, also where the window
   /// manager guards against focus stealing: call it only in answer to an action of the user.
   virtual void activate(QWindow &window) = 0;
+
+  /// Begins a drag by the mouse, which has just been pressed at \p position in \p window: of its
+  /// \p edges, or of all of it when those are none. True when the window system carries it out;
+  /// else the program follows pointerPosition() and calls setGeometry().
+  virtual bool takeDrag(QWindow &window, Qt::Edges edges, QPoint position) = 0;
+
+  /// Moves and resizes \p window, some window systems only with the next picture that it gets.
+  virtual void setGeometry(QWindow &window, const QRect &geometry) = 0;
+
+  /// Where the mouse was at an \p event of a drag, in the coordinates of windows' geometries.
+  virtual QPoint pointerPosition(const QMouseEvent &event) const = 0;
 
   /// Whether windows are blended with what is below them, so that they may have soft edges.
   virtual bool isComposited() const = 0;

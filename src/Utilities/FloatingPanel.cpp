@@ -40,7 +40,7 @@ FloatingPanel::FloatingPanel(WindowSystem &windowSystem)
   // translucent is settled at its making.
   setAttribute(Qt::WA_TranslucentBackground);
   create();
-  m_edgeResizer = std::make_unique<WindowEdgeResizer>(*windowHandle());
+  m_edgeResizer = std::make_unique<WindowEdgeResizer>(windowSystem, *windowHandle());
   connect(m_edgeResizer.get(), &WindowEdgeResizer::finished, this,
           &FloatingPanel::didEndLiveResize);
   windowHandle()->installEventFilter(this);
@@ -99,6 +99,7 @@ void FloatingPanel::closeEvent(QCloseEvent *event) {
 void FloatingPanel::setFrame(const QRect &frame) {
   m_wantedGeometry = frame.marginsAdded(contentsMargins());
   setGeometry(m_wantedGeometry);
+  m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);
 }
 
 /// A window manager that puts the window into a frame of its own moves that to its place later, and
@@ -106,7 +107,7 @@ void FloatingPanel::setFrame(const QRect &frame) {
 void FloatingPanel::confirmPlace() {
   const bool isInTheUsersHand = m_isDragged || m_edgeResizer->isResizing();
   if (!isInTheUsersHand && windowHandle()->geometry() != m_wantedGeometry) {
-    windowHandle()->setGeometry(m_wantedGeometry);
+    m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);
   }
 }
 
@@ -121,6 +122,9 @@ void FloatingPanel::paintEvent(QPaintEvent *event) {
       inner.adjusted(0, cornerRadius, 0, -cornerRadius).contains(event->rect());
   if (testAttribute(Qt::WA_TranslucentBackground) && !isClearOfCorners) {
     QPainter painter(this);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(event->rect(), Qt::transparent);  // what an older picture may have left
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     PanelShadow::paint(painter, inner, cornerRadius);
   }
 }
@@ -165,13 +169,16 @@ void FloatingPanel::updateShape() {
 // A press that no view wants reaches the window: it is the background.
 
 void FloatingPanel::mousePressEvent(QMouseEvent *event) {
-  m_isDragged = event->button() == Qt::LeftButton;
   m_dragOffset = event->position().toPoint();
+  m_isDragged = event->button() == Qt::LeftButton &&
+                !m_windowSystem.takeDrag(*windowHandle(), {}, m_dragOffset);
 }
 
 void FloatingPanel::mouseMoveEvent(QMouseEvent *event) {
   if (m_isDragged) {
-    move(event->globalPosition().toPoint() - m_dragOffset);
+    const QPoint position = m_windowSystem.pointerPosition(*event) - m_dragOffset;
+    m_windowSystem.setGeometry(*windowHandle(), {position, size()});
+    update(0, 0, 1, 1);  // a move needs no other picture
   }
 }
 

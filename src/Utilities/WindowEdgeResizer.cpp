@@ -1,5 +1,7 @@
 #include "Utilities/WindowEdgeResizer.h"
 
+#include "Platform/WindowSystem.h"
+
 #include <QtGui/QGuiApplication>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
@@ -23,7 +25,8 @@ Qt::CursorShape cursorFor(Qt::Edges edges) {
 
 }  // namespace
 
-WindowEdgeResizer::WindowEdgeResizer(QWindow &window) : m_window(window) {
+WindowEdgeResizer::WindowEdgeResizer(WindowSystem &windowSystem, QWindow &window)
+    : m_windowSystem(windowSystem), m_window(window) {
   window.installEventFilter(this);
 }
 
@@ -70,8 +73,11 @@ bool WindowEdgeResizer::press(const QMouseEvent &event) {
   if (event.button() != Qt::LeftButton || m_edges == Qt::Edges{}) {
     return false;
   }
+  if (m_windowSystem.takeDrag(m_window, m_edges, event.position().toPoint())) {
+    return true;
+  }
   m_resizing = true;
-  m_pressPosition = event.globalPosition().toPoint();
+  m_pressPosition = m_windowSystem.pointerPosition(event);
   // Where the window really is: what the window manager has done to it may not have been told yet.
   m_pressGeometry = QRect(m_pressPosition - event.position().toPoint(), m_window.size());
   return true;
@@ -79,7 +85,8 @@ bool WindowEdgeResizer::press(const QMouseEvent &event) {
 
 bool WindowEdgeResizer::move(const QMouseEvent &event) {
   if (m_resizing) {
-    m_window.setGeometry(resized(event.globalPosition().toPoint() - m_pressPosition));
+    const QPoint position = m_windowSystem.pointerPosition(event);
+    m_windowSystem.setGeometry(m_window, resized(position - m_pressPosition));
     return true;
   }
   const Qt::Edges edges =

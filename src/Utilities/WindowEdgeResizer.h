@@ -9,13 +9,15 @@ class QWindow;
 
 namespace lanternix {
 
+class WindowSystem;
+
 /// Lets the user resize a window without a frame by its edges and corners. It takes the mouse
 /// events along the edges before the window's own content sees them.
 class WindowEdgeResizer : public QObject {
   Q_OBJECT
 
  public:
-  explicit WindowEdgeResizer(QWindow &window);
+  WindowEdgeResizer(WindowSystem &windowSystem, QWindow &window);
   ~WindowEdgeResizer() override;
 
   /// What of the window lies outside its edges, in logical pixels; nothing at first.
@@ -27,7 +29,8 @@ class WindowEdgeResizer : public QObject {
   Qt::Edges edgesAt(const QPoint &position) const;
 
  Q_SIGNALS:
-  /// The user has let go of an edge and the size has changed.
+  /// The user has let go of an edge and the size has changed. Not told of a resize that the window
+  /// system has carried out.
   void finished();
 
  protected:
@@ -40,6 +43,7 @@ class WindowEdgeResizer : public QObject {
   void showCursor(Qt::Edges edges);
   QRect resized(const QPoint &distance) const;
 
+  WindowSystem &m_windowSystem;
   QWindow &m_window;
   QMargins m_margins;
   bool m_resizing = false;

@@ -86,6 +86,63 @@ TEST_F(AppearanceTest, TheDesktopsAccent_IsTheSelections) {
   EXPECT_GT(selected.red(), selected.blue() + 20);
 }
 
+TEST_F(AppearanceTest, OlderPortals_AreUnderstoodToo) {
+  for (const auto knows : {PortalService::Knows::readOneAndRead, PortalService::Knows::readOnly}) {
+    PortalService portal(busAddress(), saying(u"color-scheme"_s, dark), knows);
+    start(commands({u"Build"_s}));
+    EXPECT_TRUE(becomesDark()) << static_cast<int>(knows);
+    portal.change(look, u"color-scheme"_s, light);
+    EXPECT_TRUE(becomesLight()) << static_cast<int>(knows);
+    program().terminate();
+  }
+}
+
+TEST_F(AppearanceTest, HighContrast_IsTakenOnAndOff) {
+  PortalService portal(busAddress(), saying(u"contrast"_s, 1U));
+  start(commands({u"Build"_s}));
+  settledPicture();
+  EXPECT_EQ(background(), QColor(Qt::white));
+  portal.change(look, u"color-scheme"_s, dark);
+  EXPECT_TRUE(waitUntil([this] { return background() == QColor(Qt::black); }));
+  portal.change(look, u"contrast"_s, 0U);
+  EXPECT_TRUE(becomesDark());
+}
+
+TEST_F(AppearanceTest, ReducedMotion_FoldsAGroupInOneStep) {
+  const PortalService portal(busAddress(), saying(u"reduced-motion"_s, 1U));
+  start(commands({u"Build"_s, u"Deploy"_s}));
+  const QRect row = selectNextRow();
+  const QRect list = settledPicture().rect().adjusted(0, 90, 0, -40);
+  const QPoint header = onPanel({row.center().x(), row.top() - 12});
+  input().moveTo(header);
+  const QImage before = settledPicture().copy(list);
+  input().click(header);
+  // The first change that is seen is the last one.
+  QImage first;
+  require(u"the group to fold"_s, [&] {
+    first = picture().copy(list);
+    return first != before;
+  });
+  EXPECT_EQ(settledPicture().copy(list), first);
+}
+
+TEST_F(AppearanceTest, WithoutAnyIconTheme_TheProgramsOwnDrawingsAreShown) {
+  session().home().set(u"XDG_DATA_DIRS"_s, session().home().path(u"nowhere"_s));
+  SampleGroups groups;
+  groups.group(u"Places"_s, {.iconName = u"star.fill"_s, .colorName = u"purple"_s});
+  groups.directory(u"Home"_s, session().home().home());
+  start(groups);
+  const QRect row = selectNextRow();
+  const QImage icon = settledPicture().copy(row.left() + 12, row.top() + 8, 32, 32);
+  int drawn = 0;
+  for (int y = 0; y < icon.height(); ++y) {
+    for (int x = 0; x < icon.width(); ++x) {
+      drawn += icon.pixelColor(x, y) == QColor(0xAF52DE) ? 1 : 0;
+    }
+  }
+  EXPECT_GT(drawn, 50) << "a folder in its group's colour";
+}
+
 TEST_F(AppearanceTest, PaletteOfTheDesktopsOwnSettings_IsKept) {
   // What Qt itself reads on a Plasma desktop.
   session().home().set(u"XDG_CURRENT_DESKTOP"_s, u"KDE"_s);

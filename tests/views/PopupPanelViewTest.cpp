@@ -139,4 +139,18 @@ TEST_F(PopupPanelViewTest, BothSettingsButtons_HideThePanelAndOpenTheSettings) {
   EXPECT_EQ(opened_, 2);
 }
 
+TEST_F(PopupPanelViewTest, DrawnOverAnOlderPicture_LooksTheSame) {
+  show({work}, {report});
+  view->hide();
+  view->setAttribute(Qt::WA_TranslucentBackground);
+  QImage picture(view->size(), QImage::Format_ARGB32_Premultiplied);
+  picture.fill(Qt::transparent);
+  const auto draw = [&] { view->render(&picture, {}, {}, QWidget::DrawChildren); };
+  draw();
+  const QImage once = picture;
+  ASSERT_LT(once.pixelColor(350, 400).alpha(), 255) << "nothing shows through";
+  draw();
+  EXPECT_EQ(picture.pixelColor(350, 400), once.pixelColor(350, 400));
+}
+
 }  // namespace lanternix

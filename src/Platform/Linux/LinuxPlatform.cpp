@@ -1,4 +1,5 @@
 #include "Platform/Clock.h"
+#include "Platform/Linux/ActivationMouseMonitor.h"
 #include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/BusSingleInstance.h"
 #include "Platform/Linux/DesktopTray.h"
@@ -11,6 +12,7 @@
 #include "Platform/Linux/SignalTerminationMonitor.h"
 #include "Platform/Linux/SpawnProcessLauncher.h"
 #include "Platform/Linux/StatusNotifierHost.h"
+#include "Platform/Linux/WaylandWindowSystemFactory.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
 #include "Platform/Linux/X11ModalFocus.h"
@@ -94,6 +96,21 @@ class X11Platform : public LinuxPlatform {
   X11ModalFocus m_modalFocus{m_windowSystem};
 };
 
+/// A program that speaks to the Wayland compositor itself.
+class WaylandPlatform : public LinuxPlatform {
+ public:
+  WindowSystem &windowSystem() override { return *m_windowSystem; }
+  GlobalMouseMonitor &mouseMonitor() override { return m_mouseMonitor; }
+
+ protected:
+  HotkeyRegistrar &hotkeyRegistrar() override { return m_hotkeyRegistrar; }
+
+ private:
+  NullHotkeyRegistrar m_hotkeyRegistrar;
+  ActivationMouseMonitor m_mouseMonitor;
+  const std::unique_ptr<WindowSystem> m_windowSystem = makeWaylandWindowSystem();
+};
+
 /// Where the window system is none that we know more of than Qt does.
 class PlainPlatform : public LinuxPlatform {
  public:
@@ -114,6 +131,9 @@ class PlainPlatform : public LinuxPlatform {
 std::unique_ptr<Platform> Platform::create() {
   if (QGuiApplication::platformName() == "xcb"_L1) {
     return std::make_unique<X11Platform>();
+  }
+  if (QGuiApplication::platformName().startsWith("wayland"_L1)) {
+    return std::make_unique<WaylandPlatform>();
   }
   return std::make_unique<PlainPlatform>();
 }

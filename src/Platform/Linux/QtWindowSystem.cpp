@@ -5,6 +5,7 @@
 
 #include <QtGui/QCursor>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QMouseEvent>
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
@@ -23,10 +24,29 @@ void QtWindowSystem::noteRequest(const ActivationToken &token) {
   m_token = token.token;
 }
 
+QRect QtWindowSystem::workArea() const {
+  const QScreen *screen = activeScreen();
+  return screen != nullptr ? screen->availableGeometry() : QRect();
+}
+
 void QtWindowSystem::preparePanel(QWindow & /*window*/) {}
 
 void QtWindowSystem::prepareHiding(QWindow & /*window*/) {
   m_token.clear();
+}
+
+bool QtWindowSystem::takeDrag(QWindow & /*window*/, Qt::Edges /*edges*/, QPoint /*position*/) {
+  return false;
+}
+
+void QtWindowSystem::setGeometry(QWindow &window, const QRect &geometry) {
+  if (window.geometry() != geometry) {
+    window.setGeometry(geometry);
+  }
+}
+
+QPoint QtWindowSystem::pointerPosition(const QMouseEvent &event) const {
+  return event.globalPosition().toPoint();
 }
 
 bool QtWindowSystem::isComposited() const {

@@ -147,6 +147,9 @@ void PopupPanelView::paintEvent(QPaintEvent * /*event*/) {
     painter.fillRect(rect(), palette().color(QPalette::Window));
     return;
   }
+  // Not every window system hands over a clean sheet: the material replaces what an older picture
+  // has left, or it would grow denser with each.
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(materialColor(palette()));

@@ -1,0 +1,69 @@
+#include "Platform/Linux/LayerShellWindowSystem.h"
+
+#include "Platform/Linux/WaylandWindowSystemFactory.h"
+
+#include <QtGui/QGuiApplication>
+
+#include <LayerShellQt/Window>
+
+namespace lanternix {
+namespace {
+
+using LayerWindow = LayerShellQt::Window;
+
+}  // namespace
+
+LayerShellWindowSystem::LayerShellWindowSystem(std::unique_ptr<WaylandLayerShell> shell)
+    : m_shell(std::move(shell)) {
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &LayerShellWindowSystem::closeOn);
+}
+
+QRect LayerShellWindowSystem::workArea() const {
+  const std::optional<QSize> size = m_shell->usableSize();
+  return size ? QRect(QPoint(), *size) : QtWindowSystem::workArea();
+}
+
+void LayerShellWindowSystem::preparePanel(QWindow &window) {
+  LayerWindow *surface = LayerWindow::get(&window);
+  m_panel = &window;
+  surface->setLayer(LayerWindow::LayerOverlay);
+  surface->setScope(QStringLiteral("lanternix"));
+  // With which a surface of this layer gets the keyboard as it comes up, and lets go of it when
+  // another window is pressed.
+  surface->setKeyboardInteractivity(LayerWindow::KeyboardInteractivityOnDemand);
+  surface->setScreenConfiguration(LayerWindow::ScreenFromCompositor);
+  surface->setAnchors({LayerWindow::AnchorLeft, LayerWindow::AnchorTop});
+}
+
+/// The surface goes with its screen, and not every compositor says so.
+void LayerShellWindowSystem::closeOn(const QScreen *screen) {
+  if (m_panel && m_panel->isVisible() && m_panel->screen() == screen) {
+    m_panel->close();
+  }
+}
+
+void LayerShellWindowSystem::prepareHiding(QWindow & /*window*/) {
+  m_drag.stop();
+}
+
+bool LayerShellWindowSystem::takeDrag(QWindow & /*window*/, Qt::Edges /*edges*/, QPoint position) {
+  m_pressed = m_position + position;
+  return !m_drag.start();
+}
+
+void LayerShellWindowSystem::setGeometry(QWindow &window, const QRect &geometry) {
+  m_position = geometry.topLeft();
+  LayerWindow::get(&window)->setMargins({m_position.x(), m_position.y(), 0, 0});
+  window.resize(geometry.size());
+}
+
+QPoint LayerShellWindowSystem::pointerPosition(const QMouseEvent & /*event*/) const {
+  return m_pressed + m_drag.travelled().toPoint();
+}
+
+std::unique_ptr<WindowSystem> makeLayerShellWindowSystem() {
+  std::unique_ptr<WaylandLayerShell> shell = WaylandLayerShell::find();
+  return shell ? std::make_unique<LayerShellWindowSystem>(std::move(shell)) : nullptr;
+}
+
+}  // namespace lanternix

@@ -69,6 +69,9 @@ void AppDelegate::setupPanel() {
   connect(m_panel.get(), &FloatingPanel::didEndLiveResize, this, &AppDelegate::storePanelSize);
   connect(m_panel.get(), &FloatingPanel::closeRequested, &m_appState, &AppState::hidePanel);
 
+  // Queued: until the signal's end the windows of the screen that goes still count as being on it.
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AppDelegate::bringBackFromLostScreen,
+          Qt::QueuedConnection);
   connect(&m_mouseMonitor, &GlobalMouseMonitor::pressedOutside, this,
           &AppDelegate::hideOnPressOutside);
   connect(&m_appState, &AppState::isPanelVisibleChanged, &m_mouseMonitor,
@@ -89,11 +92,22 @@ void AppDelegate::showPanel() {
   if (!m_panel) {
     return;
   }
+  placePanel();
+  m_panel->makeKeyAndOrderFront();
+  m_appState.setPanelVisible(true);
+}
+
+void AppDelegate::placePanel() {
   if (const QScreen *screen = m_windowSystem.activeScreen()) {
     m_panel->setFrame(panelFrame(screen->availableGeometry()));
   }
-  m_panel->makeKeyAndOrderFront();
-  m_appState.setPanelVisible(true);
+}
+
+void AppDelegate::bringBackFromLostScreen() {
+  const bool isLost = QGuiApplication::screenAt(m_panel->frame().center()) == nullptr;
+  if (m_panel->isVisible() && isLost) {
+    placePanel();
+  }
 }
 
 void AppDelegate::openSettings() {

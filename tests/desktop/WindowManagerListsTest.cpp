@@ -53,27 +53,31 @@ TEST_F(WindowManagerListsTest, AltTab_PassesThePanelOver) {
   if (!manager().hasSwitcher()) {
     GTEST_SKIP() << because(manager().name() + u" has no switcher of its own"_s);
   }
+  if (manager().name() == "icewm"_L1) {
+    GTEST_SKIP() << because(
+        u"icewm lists every window; its option ignoreQuickSwitch is the user's"_s);
+  }
   start(commands({u"Build"_s}));
   const auto one = session().openOtherWindow({20, 500, 200, 200});
   const auto two = session().openOtherWindow({20, 100, 200, 200});
   input().type(u"x"_s);
   ASSERT_TRUE(waitUntil([&] { return two->keys().contains(XK_x); }));
-  // By one, two and three steps in one go: in a round of two, the third would be the panel.
+  // By one, two and three steps in one go: among three, the panel would have its turn.
+  QSet<xcb_window_t> reached;
   for (int steps = 1; steps <= 3; ++steps) {
-    OtherClient &before = one->hasFocus() ? *one : *two;
-    OtherClient &after = one->hasFocus() ? *two : *one;
-    OtherClient &expected = steps % 2 == 1 ? after : before;
     input().press(XK_Alt_L);
     for (int step = 0; step < steps; ++step) {
       input().tap(XK_Tab);
       manager().settle();
     }
     input().release(XK_Alt_L);
-    EXPECT_TRUE(waitUntil([&] {
-      return session().windows().activeWindow() == expected.window() &&
-             session().windows().hasFocus(expected.window());
-    })) << steps;
+    manager().settle();
+    program().settle();
+    EXPECT_FALSE(panelHasFocus()) << steps;
+    EXPECT_TRUE(waitUntil([&] { return one->hasFocus() || two->hasFocus(); })) << steps;
+    reached.insert(one->hasFocus() ? one->window() : two->window());
   }
+  EXPECT_EQ(reached.size(), 2) << "the switcher has not switched";
   EXPECT_TRUE(isShown());
 }
 

@@ -29,6 +29,8 @@ class WindowManagerMonitorsTest : public WindowManagerTest {
     input().moveTo(session().windows().geometry(other->window()).center());
     input().type(u"x"_s);
     require(u"the other program's key"_s, [&] { return other->keys().contains(XK_x); });
+    require(u"the active window"_s,
+            [&] { return session().windows().activeWindow() == other->window(); });
     return other;
   }
 
@@ -64,6 +66,8 @@ TEST_F(WindowManagerMonitorsTest, Panel_ComesUpOnTheMonitorOfTheActiveWindow) {
   pressShortcut();
   ASSERT_TRUE(becomesHidden());
   right->takeFocus();
+  require(u"the active window"_s,
+          [&] { return session().windows().activeWindow() == right->window(); });
   showByShortcut();
   EXPECT_TRUE(becomesShownOn(rightMonitor, 2)) << place();
 }

@@ -123,8 +123,7 @@ FocusStealingPreventionLevel=2
 [TabBox]
 ShowTabBox=false
 [org.kde.kdecoration2]
-library=org.kde.kwin.aurorae
-theme=kwin4_decoration_qml_plastik
+library=org.kde.breeze
 )";
   return {.program = u"kwin_x11"_s,
           .debianPackage = u"kwin-x11"_s,

@@ -69,8 +69,9 @@ void AppDelegate::setupPanel() {
   connect(m_panel.get(), &FloatingPanel::didEndLiveResize, this, &AppDelegate::storePanelSize);
   connect(m_panel.get(), &FloatingPanel::closeRequested, &m_appState, &AppState::hidePanel);
 
-  // Queued: until the signal's end the windows of the screen that goes still count as being on it.
-  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AppDelegate::bringBackFromLostScreen,
+  // Wherever Qt and the window manager have moved the panel, they have kept the size that it had in
+  // the pixels of the screen that went. Queued, so that they have done so by then.
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AppDelegate::followLostScreen,
           Qt::QueuedConnection);
   connect(&m_mouseMonitor, &GlobalMouseMonitor::pressedOutside, this,
           &AppDelegate::hideOnPressOutside);
@@ -103,9 +104,8 @@ void AppDelegate::placePanel() {
   }
 }
 
-void AppDelegate::bringBackFromLostScreen() {
-  const bool isLost = QGuiApplication::screenAt(m_panel->frame().center()) == nullptr;
-  if (m_panel->isVisible() && isLost) {
+void AppDelegate::followLostScreen() {
+  if (m_panel->isVisible()) {
     placePanel();
   }
 }

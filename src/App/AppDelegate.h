@@ -46,7 +46,7 @@ class AppDelegate : public QObject {
   void togglePanel();
   void hideOnPressOutside();
   void placePanel();
-  void bringBackFromLostScreen();
+  void followLostScreen();
   void storePanelSize();
   bool handleKey(const QKeyEvent &press);
   /// The panel's frame on a work area: in the middle, 60 pixels up.

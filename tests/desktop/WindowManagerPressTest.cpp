@@ -24,6 +24,8 @@ class WindowManagerPressTest : public WindowManagerTest {
 TEST_F(WindowManagerPressTest, PressOnAnotherWindow_HidesAndReachesIt) {
   start(commands({u"Build"_s}));
   const auto other = session().openOtherWindow({20, 500, 200, 200});
+  manager().settle();
+  program().settle();
   input().click(session().windows().geometry(other->window()).bottomLeft() + QPoint(20, -20));
   EXPECT_TRUE(becomesHidden());
   EXPECT_TRUE(waitUntil([&] { return other->buttons() == QList<quint8>{1}; }));

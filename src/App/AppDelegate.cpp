@@ -72,6 +72,10 @@ void AppDelegate::setupPanel() {
   connect(m_panel.get(), &FloatingPanel::didEndLiveResize, this, &AppDelegate::storePanelSize);
   connect(m_panel.get(), &FloatingPanel::closeRequested, &m_appState, &AppState::hidePanel);
 
+  // Wherever Qt and the window manager have moved the panel, they have kept the size that it had in
+  // the pixels of the screen that went. Queued, so that they have done so by then.
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AppDelegate::followLostScreen,
+          Qt::QueuedConnection);
   connect(&m_mouseMonitor, &GlobalMouseMonitor::pressedOutside, this,
           &AppDelegate::hideOnPressOutside);
   connect(&m_appState, &AppState::isPanelVisibleChanged, &m_mouseMonitor,
@@ -93,12 +97,22 @@ void AppDelegate::showPanel() {
     return;
   }
   m_firstShow.stop();  // it would bring back what may be hidden by then
+  placePanel();
+  m_panel->makeKeyAndOrderFront();
+  m_appState.setPanelVisible(true);
+}
+
+void AppDelegate::placePanel() {
   const QRect workArea = m_windowSystem.workArea();
   if (!workArea.isNull()) {
     m_panel->setFrame(panelFrame(workArea));
   }
-  m_panel->makeKeyAndOrderFront();
-  m_appState.setPanelVisible(true);
+}
+
+void AppDelegate::followLostScreen() {
+  if (m_panel->isVisible()) {
+    placePanel();
+  }
 }
 
 void AppDelegate::openSettings() {

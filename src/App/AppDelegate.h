@@ -51,6 +51,8 @@ class AppDelegate : public QObject {
  private:
   void setupPanel();
   void hideOnPressOutside();
+  void placePanel();
+  void followLostScreen();
   void storePanelSize();
   bool handleKey(const QKeyEvent &press);
   /// The panel's frame on a work area: in the middle, 60 pixels up.

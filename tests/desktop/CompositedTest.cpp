@@ -6,8 +6,9 @@ namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
-CompositedTest::CompositedTest(Compositing compositing, DesktopSession::WithManager withManager)
-    : DesktopTest(withManager) {
+CompositedTest::CompositedTest(Compositing compositing, DesktopSession::WithManager withManager,
+                               QSize screenSize)
+    : DesktopTest(withManager, DesktopSession::WithBus::yes, screenSize) {
   if (compositing == Compositing::on) {
     startCompositor();
   }

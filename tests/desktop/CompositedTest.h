@@ -15,8 +15,10 @@ class CompositedTest : public DesktopTest {
  protected:
   enum class Compositing { off, on };
 
-  explicit CompositedTest(Compositing compositing, DesktopSession::WithManager withManager =
-                                                       DesktopSession::WithManager::yes);
+  explicit CompositedTest(
+      Compositing compositing,
+      DesktopSession::WithManager withManager = DesktopSession::WithManager::yes,
+      QSize screenSize = {1280, 900});
 
   /// What the shadow takes around the frame at scale 1.
   static constexpr QMargins shadow{36, 28, 36, 48};

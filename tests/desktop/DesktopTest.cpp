@@ -27,8 +27,9 @@ QRect difference(const QImage &before, const QImage &after, const QRect &area) {
 
 }  // namespace
 
-DesktopTest::DesktopTest(DesktopSession::WithManager withManager, DesktopSession::WithBus withBus)
-    : m_session(withManager, withBus) {}
+DesktopTest::DesktopTest(DesktopSession::WithManager withManager, DesktopSession::WithBus withBus,
+                         QSize screenSize)
+    : m_session(withManager, withBus, screenSize) {}
 
 void DesktopTest::start(const SampleGroups &groups) {
   ProgramEnvironment::write(m_session.home().dataFile(), groups.json());

@@ -18,7 +18,8 @@ namespace lanternix {
 class DesktopTest : public testing::Test {
  protected:
   explicit DesktopTest(DesktopSession::WithManager withManager = DesktopSession::WithManager::yes,
-                       DesktopSession::WithBus withBus = DesktopSession::WithBus::yes);
+                       DesktopSession::WithBus withBus = DesktopSession::WithBus::yes,
+                       QSize screenSize = {1280, 900});
 
   // --- The program ------------------------------------------------------------------------------
 

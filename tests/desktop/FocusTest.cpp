@@ -65,7 +65,7 @@ TEST_F(FocusTest, PressOnTheUnfocusedPanel_TakesTheKeyboardBack) {
 
 TEST_F(FocusTest, AnotherDesktop_ShowsThePanelThere) {
   startHidden(commands({u"Build"_s}));
-  session().windows().switchToDesktop(1);
+  session().windowManager()->switchToDesktop(1);
   const auto other = session().openOtherWindow();
   showByShortcut();
   EXPECT_TRUE(session().windows().isViewable(other->window()));
@@ -75,7 +75,7 @@ TEST_F(FocusTest, AnotherDesktop_ShowsThePanelThere) {
 TEST_F(FocusTest, SwitchOfTheDesktop_TakesThePanelAlong) {
   start(commands({u"Build"_s}));
   const auto other = session().openOtherWindow();
-  session().windows().switchToDesktop(1);
+  session().windowManager()->switchToDesktop(1);
   ASSERT_TRUE(waitUntil([&] { return !session().windows().isViewable(other->window()); }));
   EXPECT_TRUE(isShown());
 }

@@ -4,8 +4,9 @@ namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
-DesktopSession::DesktopSession(WithManager withManager, WithBus withBus)
-    : m_windowManager(withManager == WithManager::yes ? std::make_unique<WindowManager>(m_display)
+DesktopSession::DesktopSession(WithManager withManager, WithBus withBus, QSize screenSize)
+    : m_display(screenSize),
+      m_windowManager(withManager == WithManager::yes ? std::make_unique<WindowManager>(m_display)
                                                       : nullptr),
       m_bus(withBus == WithBus::yes ? std::make_unique<SessionBus>() : nullptr),
       m_input(m_display.name(), m_windowManager.get()),

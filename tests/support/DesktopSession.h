@@ -20,12 +20,13 @@ class DesktopSession {
   enum class WithBus { no, yes };
 
   explicit DesktopSession(WithManager withManager = WithManager::yes,
-                          WithBus withBus = WithBus::yes);
+                          WithBus withBus = WithBus::yes, QSize screenSize = {1280, 900});
 
   ProgramEnvironment &home() { return m_home; }
   const ProgramEnvironment &home() const { return m_home; }
   InputDriver &input() { return m_input; }
   WindowProbe &windows() { return m_windows; }
+  const VirtualDisplay &display() const { return m_display; }
   const QString &displayName() const { return m_display.name(); }
   QSize screenSize() const { return m_display.size(); }
   /// Null in a session without one.

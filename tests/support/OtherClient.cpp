@@ -42,8 +42,24 @@ OtherClient::OtherClient(const QString &displayName, QRect geometry, Shape shape
     const xcb_atom_t state = m_connection.atom("_NET_WM_STATE_FULLSCREEN");
     xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window,
                         m_connection.atom("_NET_WM_STATE"), XCB_ATOM_ATOM, 32, 1, &state);
+  } else if (shape == Shape::dock) {
+    becomeDock(geometry);
   }
   m_connection.sync();
+}
+
+void OtherClient::becomeDock(const QRect &geometry) {
+  const xcb_atom_t type = m_connection.atom("_NET_WM_WINDOW_TYPE_DOCK");
+  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window,
+                      m_connection.atom("_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM, 32, 1, &type);
+  // What it takes of each edge (left, right, top, bottom), then from where to where.
+  std::array<quint32, 12> strut{};
+  strut[3] = static_cast<quint32>(geometry.height());
+  strut[10] = static_cast<quint32>(geometry.left());
+  strut[11] = static_cast<quint32>(geometry.right());
+  xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, m_window,
+                      m_connection.atom("_NET_WM_STRUT_PARTIAL"), XCB_ATOM_CARDINAL, 32,
+                      strut.size(), strut.data());
 }
 
 void OtherClient::show() {

@@ -13,7 +13,9 @@ namespace lanternix {
 /// of the keys and buttons that reached it.
 class OtherClient {
  public:
-  enum class Shape { normal, fullScreen };
+  /// A dock is a desktop's panel: it stays where it is, gets no keyboard, and windows keep clear of
+  /// it where it lies at the lower edge of the screen.
+  enum class Shape { normal, fullScreen, dock };
 
   /// Makes the window without showing it.
   OtherClient(const QString &displayName, QRect geometry = {60, 60, 400, 300},
@@ -39,6 +41,7 @@ class OtherClient {
   void letKeyGo(xcb_keysym_t key, quint16 modifiers);
 
  private:
+  void becomeDock(const QRect &geometry);
   void readEvents();
   void noteUserTime(xcb_timestamp_t time);
 

@@ -17,7 +17,7 @@ constexpr auto configuration = R"(<!DOCTYPE busconfig PUBLIC
 <busconfig>
   <type>session</type>
   <listen>unix:path=%1/bus</listen>
-  <servicedir>%1/services</servicedir>
+  <servicedir>%1/services</servicedir>%2
   <auth>EXTERNAL</auth>
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
@@ -29,16 +29,19 @@ constexpr auto configuration = R"(<!DOCTYPE busconfig PUBLIC
 
 }  // namespace
 
-SessionBus::SessionBus() : m_daemon(u"dbus-daemon"_s, u"dbus-daemon"_s) {
+SessionBus::SessionBus(Services services, const QProcessEnvironment &environment)
+    : m_daemon(u"dbus-daemon"_s, u"dbus-daemon"_s) {
   QDir().mkpath(serviceDirectory());
   QFile file(m_directory.filePath(u"bus.conf"_s));
   if (!file.open(QIODevice::WriteOnly)) {
     throw HarnessError(file.errorString());
   }
-  file.write(QString(configuration).arg(m_directory.path()).toUtf8());
+  const QLatin1String installed =
+      services == Services::installed ? "<standard_session_servicedirs/>"_L1 : ""_L1;
+  file.write(QString(configuration).arg(m_directory.path(), installed).toUtf8());
   file.close();
   m_daemon.start({u"--nofork"_s, u"--print-address"_s, u"--config-file="_s + file.fileName()},
-                 QProcessEnvironment::systemEnvironment());
+                 environment);
   m_address = QString::fromLatin1(m_daemon.firstLine().trimmed());
 }
 

@@ -6,12 +6,18 @@
 
 namespace lanternix {
 
-/// A session bus of its own, which starts no service but those that a test puts into its service
-/// directory.
+/// A session bus of its own, which starts those services that a test puts into its service
+/// directory, and no others unless it is told to.
 class SessionBus {
  public:
-  /// Starts the bus and returns once it accepts connections.
-  SessionBus();
+  /// Whether the bus also starts the services that are installed on this machine.
+  enum class Services { ownOnly, installed };
+
+  /// Starts the bus, and with it its services, in \p environment and returns once it accepts
+  /// connections.
+  explicit SessionBus(
+      Services services = Services::ownOnly,
+      const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
 
   /// As DBUS_SESSION_BUS_ADDRESS names it.
   const QString &address() const { return m_address; }

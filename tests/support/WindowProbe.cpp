@@ -119,6 +119,12 @@ xcb_window_t WindowProbe::activeWindow() const {
   return m_connection.number(m_connection.root(), "_NET_ACTIVE_WINDOW");
 }
 
+QList<xcb_window_t> WindowProbe::clients() const {
+  const std::vector<quint32> windows =
+      numbers(m_connection.property(m_connection.root(), "_NET_CLIENT_LIST"));
+  return {windows.begin(), windows.end()};
+}
+
 QRect WindowProbe::workArea() const {
   const std::vector<quint32> area =
       numbers(m_connection.property(m_connection.root(), "_NET_WORKAREA"));
@@ -129,16 +135,9 @@ QRect WindowProbe::workArea() const {
           static_cast<int>(area[3])};
 }
 
-void WindowProbe::switchToDesktop(quint32 desktop) {
-  xcb_client_message_event_t event{};
-  event.response_type = XCB_CLIENT_MESSAGE;
-  event.format = 32;
-  event.window = m_connection.root();
-  event.type = m_connection.atom("_NET_CURRENT_DESKTOP");
-  event.data.data32[0] = desktop;
-  xcb_send_event(m_connection, 0, m_connection.root(),
-                 XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                 reinterpret_cast<const char *>(&event));
+void WindowProbe::raise(xcb_window_t window) {
+  const quint32 above = XCB_STACK_MODE_ABOVE;
+  xcb_configure_window(m_connection, window, XCB_CONFIG_WINDOW_STACK_MODE, &above);
   m_connection.sync();
 }
 

@@ -48,10 +48,13 @@ class WindowProbe {
   bool hasFocus(xcb_window_t window) const;
   /// As the window manager names it.
   xcb_window_t activeWindow() const;
+  /// The windows that the window manager lists for taskbars.
+  QList<xcb_window_t> clients() const;
   /// The first desktop's work area.
   QRect workArea() const;
-  /// Makes another desktop the present one.
-  void switchToDesktop(quint32 desktop);
+
+  /// Asks the window manager, as a program does for a window of its own, to put it on top.
+  void raise(xcb_window_t window);
 
   /// The picture of a viewable window as it is on the screen. A null image when there is none.
   QImage grab(xcb_window_t window) const;

@@ -71,12 +71,13 @@ void X11WindowSystem::noteRequest(const ActivationToken &token) {
 void X11WindowSystem::preparePanel(QWindow &window) {
   const xcb_window_t panel = nativeWindow(window);
   // A window manager that has not yet carried out the last hiding would wipe what is written now.
-  m_marksAtRisk = !comesTrue([&] { return !isManaged(panel); });
+  comesTrue([&] { return !isManaged(panel); });
 
   const std::array types{m_atoms[X11Atoms::netWmWindowTypeUtility]};
   const std::array states{m_atoms[X11Atoms::netWmStateAbove], m_atoms[X11Atoms::netWmStateSticky],
                           m_atoms[X11Atoms::netWmStateSkipTaskbar],
                           m_atoms[X11Atoms::netWmStateSkipPager]};
+  m_panel = panel;
   xcb_connection_t *connection = m_server.connection();
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, panel, m_atoms[X11Atoms::netWmWindowType],
                       XCB_ATOM_ATOM, bitsPerItem, types.size(), types.data());
@@ -121,7 +122,7 @@ void X11WindowSystem::raiseAndFocus(xcb_window_t window) {
 /// The window manager meets these after the request to show the window, which it answers first.
 void X11WindowSystem::askForActivation(xcb_window_t window) {
   setUserTime(window);
-  if (std::exchange(m_marksAtRisk, false)) {
+  if (window == m_panel) {
     addMarks(window);
   }
   sendToWindowManager(window, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.recent()});
@@ -151,8 +152,8 @@ std::optional<xcb_window_t> X11WindowSystem::windowProperty(xcb_window_t window,
 /// In the server's pixels. None without an active window, or when it has just gone.
 std::optional<QPoint> X11WindowSystem::activeWindowCentre() const {
   const auto active = windowProperty(m_server.root(), X11Atoms::netActiveWindow);
-  if (!active || *active == XCB_WINDOW_NONE) {
-    return std::nullopt;
+  if (!active || *active == XCB_WINDOW_NONE || *active == m_panel) {
+    return std::nullopt;  // the panel is only named by who has not yet dealt with its hiding
   }
   xcb_connection_t *connection = m_server.connection();
   const auto geometryCookie = xcb_get_geometry(connection, *active);
@@ -195,6 +196,9 @@ void X11WindowSystem::setUserTime(xcb_window_t window) {
   }
 }
 
+/// The same as was written before the show, for window managers that do not look there: KWin puts a
+/// window of a program's group on one desktop whatever it says, and a slow one wipes what it meets
+/// before it has carried out the last hiding.
 void X11WindowSystem::addMarks(xcb_window_t window) {
   constexpr quint32 add = 1;
   sendToWindowManager(

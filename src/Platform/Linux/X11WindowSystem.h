@@ -47,8 +47,8 @@ class X11WindowSystem : public QtWindowSystem {
   mutable X11Atoms m_atoms;
   X11StartupNotification m_startupNotification{m_server, m_atoms};
   X11Compositor m_compositor;
-  /// Whether the window manager was about to wipe the panel's marks when they were written.
-  bool m_marksAtRisk = false;
+  /// The window prepared last.
+  xcb_window_t m_panel = XCB_WINDOW_NONE;
 };
 
 }  // namespace lanternix

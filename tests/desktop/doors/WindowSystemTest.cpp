@@ -154,10 +154,10 @@ TEST_F(ManagedX11WindowSystemTest, ShownPanel_StaysWhenTheDesktopChanges) {
   ASSERT_TRUE(waitUntil([&] { return isMarkedAsPanel(); }));
   OtherClient other(testDisplay().name());
   other.show();
-  windows.switchToDesktop(1);
+  windowManager.switchToDesktop(1);
   EXPECT_TRUE(waitUntil([&] { return !windows.isViewable(other.window()); }));
   EXPECT_TRUE(windows.isViewable(native()));
-  windows.switchToDesktop(0);
+  windowManager.switchToDesktop(0);
 }
 
 TEST_F(X11WindowSystemTest, PreparedPanel_AsksForEveryMark) {

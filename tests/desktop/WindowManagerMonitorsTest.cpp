@@ -1,0 +1,114 @@
+#include "desktop/WindowManagerTest.h"
+#include "support/Monitors.h"
+
+#include <X11/keysym.h>
+
+namespace lanternix {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+// Side by side, of different height; the right one shows everything at twice its size.
+constexpr QRect leftMonitor{0, 0, 1280, 900};
+constexpr QRect rightMonitor{1280, 0, 1600, 1200};
+constexpr QSize panelSize{700, 500};
+
+class WindowManagerMonitorsTest : public WindowManagerTest {
+ protected:
+  WindowManagerMonitorsTest() : WindowManagerTest({2880, 1200}) {
+    monitors.plugIn(u"left"_s, leftMonitor);
+    monitors.plugIn(u"right"_s, rightMonitor);
+    manager().settle();
+    session().home().set(u"QT_SCREEN_SCALE_FACTORS"_s, u"left=1;right=2"_s);
+  }
+
+  /// Opens a window on a monitor, which then is the one the user works on.
+  std::unique_ptr<OtherClient> workOn(const QRect &monitor) {
+    if (manager().tiles()) {
+      manager().switchToDesktop(monitor == leftMonitor ? 0 : 1);  // one on each
+    }
+    auto other =
+        session().openOtherWindow(QRect(monitor.topLeft() + QPoint(20, 200), QSize(200, 200)));
+    input().moveTo(session().windows().geometry(other->window()).center());
+    input().type(u"x"_s);
+    require(u"the other program's key"_s, [&] { return other->keys().contains(XK_x); });
+    require(u"the active window"_s,
+            [&] { return session().windows().activeWindow() == other->window(); });
+    return other;
+  }
+
+  /// Whether the panel comes to stand on \p monitor, in the middle of its width and at its scale.
+  bool becomesShownOn(const QRect &monitor, int scale) {
+    return waitUntil([&] {
+      return isShown() && monitor.contains(frame()) && frame().size() == panelSize * scale &&
+             qAbs(frame().center().x() - monitor.center().x()) <= scale;
+    });
+  }
+  std::string place() {
+    const QRect now = frame();
+    return u"%1,%2 %3x%4"_s.arg(now.x())
+        .arg(now.y())
+        .arg(now.width())
+        .arg(now.height())
+        .toStdString();
+  }
+
+  Monitors monitors{session().display()};
+};
+
+TEST_F(WindowManagerMonitorsTest, Panel_ComesUpOnTheMonitorOfTheActiveWindow) {
+  startHidden(commands({u"Build"_s}));
+  const auto right = workOn(rightMonitor);
+  showByShortcut();
+  EXPECT_TRUE(becomesShownOn(rightMonitor, 2)) << place();
+  pressShortcut();
+  ASSERT_TRUE(becomesHidden());
+  const auto left = workOn(leftMonitor);
+  showByShortcut();
+  EXPECT_TRUE(becomesShownOn(leftMonitor, 1)) << place();
+  pressShortcut();
+  ASSERT_TRUE(becomesHidden());
+  const auto rightAgain = workOn(rightMonitor);
+  showByShortcut();
+  EXPECT_TRUE(becomesShownOn(rightMonitor, 2)) << place();
+}
+
+TEST_F(WindowManagerMonitorsTest, MonitorUnpluggedWhileThePanelIsHidden_IsSurvived) {
+  startHidden(commands({u"Build"_s}));
+  const auto right = workOn(rightMonitor);
+  showByShortcut();
+  ASSERT_TRUE(becomesShownOn(rightMonitor, 2)) << place();
+  pressShortcut();
+  ASSERT_TRUE(becomesHidden());
+  monitors.unplug(u"right"_s);
+  program().settle();
+  showByShortcut();
+  EXPECT_TRUE(becomesShownOn(leftMonitor, 1)) << place();
+}
+
+TEST_F(WindowManagerMonitorsTest, MonitorUnpluggedUnderThePanel_IsSurvived) {
+  startHidden(commands({u"Build"_s}));
+  const auto right = workOn(rightMonitor);
+  showByShortcut();
+  ASSERT_TRUE(becomesShownOn(rightMonitor, 2)) << place();
+  monitors.unplug(u"right"_s);
+  EXPECT_TRUE(becomesShownOn(leftMonitor, 1)) << place();
+  input().type(u"Build"_s);
+  input().tap(XK_Return);
+  EXPECT_TRUE(becomesMarked(u"Build"_s));
+}
+
+TEST_F(WindowManagerMonitorsTest, MonitorPluggedInAgain_IsUsedAgain) {
+  startHidden(commands({u"Build"_s}));
+  monitors.unplug(u"right"_s);
+  program().settle();
+  monitors.plugIn(u"right"_s, rightMonitor);
+  manager().settle();
+  program().settle();
+  const auto right = workOn(rightMonitor);
+  showByShortcut();
+  EXPECT_TRUE(becomesShownOn(rightMonitor, 2)) << place();
+}
+
+}  // namespace
+}  // namespace lanternix

@@ -8,6 +8,8 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QVBoxLayout>
 
+#include <memory>
+
 namespace lanternix {
 
 namespace {
@@ -60,10 +62,8 @@ void FormSection::setTitle(const QString &title) {
 void FormSection::addRow(QWidget *row) {
   if (m_rows->count() > 0) {
     auto *line = new DividerLine(m_box);
-    auto *indented = new QHBoxLayout;
-    indented->setContentsMargins(rowSidePadding, 0, rowSidePadding, 0);
-    indented->addWidget(line);
-    m_rows->addLayout(indented);
+    line->setContentsMargins(rowSidePadding, 0, rowSidePadding, 0);
+    m_rows->addWidget(line);
   }
   auto *padded = new QWidget(m_box);
   auto *layout = new QHBoxLayout(padded);
@@ -91,12 +91,10 @@ void FormSection::addRow(const QString &title, const QString &caption, QWidget *
 }
 
 void FormSection::clear() {
-  while (QLayoutItem *item = m_rows->takeAt(0)) {
-    if (QLayout *inner = item->layout()) {
-      delete inner->takeAt(0)->widget();
-    }
-    delete item->widget();
-    delete item;
+  while (const std::unique_ptr<QLayoutItem> item{m_rows->takeAt(0)}) {
+    // A row may be cleared by what a press on it has brought about, before the press gets there.
+    item->widget()->hide();
+    item->widget()->deleteLater();
   }
 }
 

@@ -21,7 +21,7 @@ class FormSection : public QWidget {
   void addRow(QWidget *row);
   /// Appends a row of a title, a caption below it unless empty, and \p control at its end.
   void addRow(const QString &title, const QString &caption, QWidget *control);
-  /// Takes all rows away and deletes them.
+  /// Takes all rows away, and deletes them when the event loop comes round.
   void clear();
 
  private:

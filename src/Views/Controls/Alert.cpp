@@ -1,5 +1,6 @@
 #include "Views/Controls/Alert.h"
 
+#include "Views/Style/Destructive.h"
 #include "Views/Style/TextLabel.h"
 
 #include <QtWidgets/QDialog>
@@ -54,7 +55,7 @@ QDialog *Alert::show(QWidget *window, const std::function<void()> &confirmed) co
   if (!isMessage) {
     auto *act = new QPushButton(destructiveAction, dialog);
     act->setAutoDefault(false);
-    act->setProperty("destructive", true);
+    markDestructive(*act);
     QObject::connect(act, &QPushButton::clicked, dialog, &QDialog::accept);
     bar->insertWidget(0, act);
   }

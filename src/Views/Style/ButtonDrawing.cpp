@@ -2,6 +2,7 @@
 
 #include "Views/Style/AccentFill.h"
 #include "Views/Style/Contrast.h"
+#include "Views/Style/Destructive.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/SystemColors.h"
 
@@ -22,10 +23,6 @@ constexpr double focusWidth = 2;
 bool isProminent(const QStyleOptionButton &option) {
   return option.features.testFlag(QStyleOptionButton::DefaultButton) &&
          option.state.testFlag(QStyle::State_Enabled);
-}
-
-bool isDestructive(const QWidget *button) {
-  return button != nullptr && button->property("destructive").toBool();
 }
 
 /// What the button is filled with when nothing happens to it.

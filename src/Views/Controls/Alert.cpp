@@ -48,13 +48,12 @@ QDialog *Alert::show(QWidget *window, const std::function<void()> &confirmed) co
   bar->setContentsMargins(0, spacing, 0, 0);
   const bool isMessage = destructiveAction.isEmpty();
   auto *dismiss = new QPushButton(isMessage ? u"OK"_s : u"Cancel"_s, dialog);
-  // Return must not destroy anything.
+  // Return must not destroy anything, unless the user has gone to the button that does.
   dismiss->setDefault(true);
   QObject::connect(dismiss, &QPushButton::clicked, dialog, &QDialog::reject);
   bar->addWidget(dismiss);
   if (!isMessage) {
     auto *act = new QPushButton(destructiveAction, dialog);
-    act->setAutoDefault(false);
     markDestructive(*act);
     QObject::connect(act, &QPushButton::clicked, dialog, &QDialog::accept);
     bar->insertWidget(0, act);

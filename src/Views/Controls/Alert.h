@@ -15,7 +15,7 @@ struct Alert {
   /// Empty where the title says it all.
   QString message;
   /// The label of the button that carries out what the alert is about; empty for a message that
-  /// has only "OK".
+  /// has only "OK". The keyboard is with the other button at first.
   QString destructiveAction;
 
   /// Shows the alert over \p window and returns; \p window owns it. \p confirmed is called when the

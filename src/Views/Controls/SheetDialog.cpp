@@ -32,7 +32,6 @@ SheetDialog::SheetDialog(const QString &title, const QString &confirmation, QSiz
   headerBar->addWidget(header);
 
   auto *cancel = new QPushButton(u"Cancel"_s, this);
-  cancel->setAutoDefault(false);
   m_confirm = new QPushButton(confirmation, this);
   m_confirm->setDefault(true);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);

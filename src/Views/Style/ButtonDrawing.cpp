@@ -25,16 +25,22 @@ bool isProminent(const QStyleOptionButton &option) {
          option.state.testFlag(QStyle::State_Enabled);
 }
 
+/// The colours of a prominent button.
+AccentFill prominentFill(const QStyleOptionButton &option, const QWidget *button) {
+  return isDestructive(button) ? AccentFill::of(systemColor(SystemColor::red, option.palette))
+                               : AccentFill::of(option.palette);
+}
+
 /// What the button is filled with when nothing happens to it.
-QColor restingGround(const QStyleOptionButton &option) {
-  return isProminent(option) ? AccentFill::of(option.palette).ground
+QColor restingGround(const QStyleOptionButton &option, const QWidget *button) {
+  return isProminent(option) ? prominentFill(option, button).ground
                              : fillColor(FillStyle::quaternary, option.palette);
 }
 
-QColor groundColor(const QStyleOptionButton &option) {
+QColor groundColor(const QStyleOptionButton &option, const QWidget *button) {
   constexpr int pressedDarkness = 115;  // percent
   constexpr int hoverDarkness = 105;
-  const QColor ground = restingGround(option);
+  const QColor ground = restingGround(option, button);
   if (option.state.testFlag(QStyle::State_Sunken)) {
     return ground.darker(pressedDarkness);
   }
@@ -46,11 +52,11 @@ QColor textColor(const QStyleOptionButton &option, const QWidget *button) {
     return fillColor(FillStyle::tertiary, option.palette);
   }
   if (isProminent(option)) {
-    return AccentFill::of(option.palette).text;
+    return prominentFill(option, button).text;
   }
   if (isDestructive(button)) {
     const QColor window = option.palette.color(QPalette::Window);
-    return Contrast::readableOn(Contrast::laidOn(window, groundColor(option)),
+    return Contrast::readableOn(Contrast::laidOn(window, groundColor(option, button)),
                                 systemColor(SystemColor::red, option.palette));
   }
   return fillColor(FillStyle::primary, option.palette);
@@ -71,7 +77,7 @@ void drawButton(QPainter &painter, const QStyleOptionButton &option, const QWidg
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(groundColor(option));
+  painter.setBrush(groundColor(option, button));
   const QRectF shape =
       QRectF(option.rect).adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
   painter.drawRoundedRect(shape, radius, radius);

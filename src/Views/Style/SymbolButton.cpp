@@ -2,6 +2,7 @@
 
 #include "Views/Style/Symbol.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 
 #include <utility>
@@ -25,6 +26,16 @@ double SymbolButton::side() const {
 QSize SymbolButton::sizeHint() const {
   const int extent = qCeil(side()) + 2 * margin;
   return {extent, extent};
+}
+
+void SymbolButton::keyPressEvent(QKeyEvent *event) {
+  // Whether Return presses a button is for each desktop to say, and most say no.
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!isReturn) {
+    QAbstractButton::keyPressEvent(event);
+  } else if (!event->isAutoRepeat()) {
+    click();
+  }
 }
 
 void SymbolButton::paintEvent(QPaintEvent * /*event*/) {

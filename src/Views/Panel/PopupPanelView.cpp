@@ -18,6 +18,7 @@
 #include "Views/Style/SymbolButton.h"
 #include "Views/Style/SymbolLabel.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
@@ -29,6 +30,20 @@
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
+
+namespace {
+
+/// Whether the key changes a text, rather than being a command.
+bool isTyped(const QKeyEvent &press) {
+  if ((press.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) {
+    return false;
+  }
+  const QString text = press.text();
+  return press.key() == Qt::Key_Backspace ||
+         (!text.isEmpty() && text.front().category() != QChar::Other_Control);
+}
+
+}  // namespace
 
 PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
     : QWidget(parent),
@@ -124,19 +139,33 @@ void PopupPanelView::focusSearch() {
   m_searchBar->focusField();
 }
 
-// The keyboard is always with the search field, and its wish for a menu is meant for the item that
-// the arrow keys have selected.
+bool PopupPanelView::openMenuFor(const QContextMenuEvent &event) {
+  return event.reason() == QContextMenuEvent::Keyboard && m_list->openMenuOfSelection();
+}
+
+// The search field would open a menu of its own, as it does while no item is selected.
 bool PopupPanelView::eventFilter(QObject * /*watched*/, QEvent *event) {
-  if (event->type() == QEvent::ContextMenu) {
-    return static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard &&
-           m_list->openMenuOfSelection();
+  return event->type() == QEvent::ContextMenu &&
+         openMenuFor(*static_cast<QContextMenuEvent *>(event));
+}
+
+void PopupPanelView::contextMenuEvent(QContextMenuEvent *event) {
+  event->setAccepted(openMenuFor(*event));
+}
+
+// What comes here was of no use to the view that has the keyboard.
+void PopupPanelView::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+    event->setAccepted(m_list->openMenuOfSelection());
+    return;
   }
-  if (event->type() == QEvent::KeyPress) {
-    const auto *press = static_cast<QKeyEvent *>(event);
-    return press->key() == Qt::Key_F10 && press->modifiers() == Qt::ShiftModifier &&
-           m_list->openMenuOfSelection();
+  QWidget *field = m_searchBar->focusProxy();
+  if (field->hasFocus() || !isTyped(*event)) {
+    QWidget::keyPressEvent(event);
+    return;
   }
-  return false;
+  focusSearch();
+  QCoreApplication::sendEvent(field, event);
 }
 
 void PopupPanelView::paintEvent(QPaintEvent * /*event*/) {

@@ -9,8 +9,6 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QRadioButton>
 
-#include <algorithm>
-
 namespace lanternix {
 
 namespace {
@@ -19,6 +17,7 @@ constexpr double radius = 6;
 constexpr int inset = 2;
 constexpr int margin = 3;  // as much as the ring of the controls above and below takes
 constexpr int linePadding = 4;
+constexpr int sidePadding = 6;
 
 /// One of the choices. A radio button, so that keys and screen readers take it for what it is.
 class Segment : public QRadioButton {
@@ -26,7 +25,6 @@ class Segment : public QRadioButton {
   using QRadioButton::QRadioButton;
 
   QSize sizeHint() const override {
-    constexpr int sidePadding = 10;
     return fontMetrics().size(Qt::TextHideMnemonic, text()) +
            QSize(2 * sidePadding, 2 * linePadding);
   }
@@ -77,7 +75,7 @@ SegmentedPicker::SegmentedPicker(const QString &name, const QStringList &texts, 
   });
 }
 
-/// Only there; within the choice the arrows do the rest.
+/// The Tab key stops at one segment only; from there the arrows go to the others.
 void SegmentedPicker::letTabStopAt(int index) {
   const QList<QAbstractButton *> segments = m_buttons->buttons();
   for (QAbstractButton *segment : segments) {
@@ -96,15 +94,14 @@ void SegmentedPicker::setCurrentIndex(int index) {
   }
 }
 
-QSize SegmentedPicker::minimumSizeHint() const {
-  constexpr int sidePadding = 6;
-  int widest = 0;
+QSize SegmentedPicker::sizeHint() const {
+  QSize largest;
   const QList<QAbstractButton *> segments = m_buttons->buttons();
   for (const QAbstractButton *segment : segments) {
-    widest = std::max(widest, fontMetrics().horizontalAdvance(segment->text()));
+    largest = largest.expandedTo(segment->sizeHint());
   }
   const auto count = static_cast<int>(segments.size());
-  return {count * (widest + 2 * sidePadding) + 2 * margin, QWidget::minimumSizeHint().height()};
+  return {count * largest.width() + 2 * margin, largest.height() + 2 * margin};
 }
 
 void SegmentedPicker::paintEvent(QPaintEvent * /*event*/) {

@@ -8,6 +8,8 @@
 
 #include <QtGui/QPainter>
 
+#include <algorithm>
+
 namespace lanternix {
 
 namespace {

@@ -1,7 +1,7 @@
 #include "Views/Controls/SegmentedPicker.h"
 
 #include "Views/Style/FillStyle.h"
-#include "Views/Style/SystemColors.h"
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/TextStyle.h"
 
 #include <QtGui/QPainter>
@@ -43,10 +43,7 @@ class Segment : public QRadioButton {
       painter.drawRoundedRect(shape, radius - inset, radius - inset);
     }
     if (hasFocus()) {
-      constexpr float ringOpacity = 0.5F;
-      painter.setPen(QPen(withOpacity(accentColor(palette()), ringOpacity), 2));
-      painter.setBrush(Qt::NoBrush);
-      painter.drawRoundedRect(shape, radius - inset, radius - inset);
+      FocusRing::draw(painter, palette(), shape, radius - inset);
     }
     painter.setPen(fillColor(FillStyle::primary, palette()));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextHideMnemonic, text());

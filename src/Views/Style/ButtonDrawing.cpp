@@ -4,6 +4,7 @@
 #include "Views/Style/Contrast.h"
 #include "Views/Style/Destructive.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/SystemColors.h"
 
 #include <QtGui/QPainter>
@@ -18,7 +19,6 @@ constexpr double radius = 6;
 constexpr int sidePadding = 12;
 constexpr int linePadding = 5;
 constexpr int iconSpacing = 5;
-constexpr double focusWidth = 2;
 
 bool isProminent(const QStyleOptionButton &option) {
   return option.features.testFlag(QStyleOptionButton::DefaultButton) &&
@@ -78,19 +78,13 @@ void drawButton(QPainter &painter, const QStyleOptionButton &option, const QWidg
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
   painter.setBrush(groundColor(option, button));
-  const QRectF shape =
-      QRectF(option.rect).adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
+  constexpr double ring = FocusRing::width;
+  const QRectF shape = QRectF(option.rect).adjusted(ring, ring, -ring, -ring);
   painter.drawRoundedRect(shape, radius, radius);
   if (option.state.testFlag(QStyle::State_HasFocus)) {
-    QColor ring = option.palette.color(QPalette::Highlight);
-    constexpr float ringOpacity = 0.5F;
-    ring.setAlphaF(ringOpacity);
-    painter.setPen(QPen(ring, focusWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(
-        QRectF(option.rect)
-            .adjusted(focusWidth / 2, focusWidth / 2, -focusWidth / 2, -focusWidth / 2),
-        radius + 1, radius + 1);
+    constexpr double inset = FocusRing::width / 2;
+    FocusRing::draw(painter, option.palette,
+                    QRectF(option.rect).adjusted(inset, inset, -inset, -inset), radius + 1);
   }
 
   const QColor color = textColor(option, button);

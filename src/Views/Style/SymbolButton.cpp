@@ -1,5 +1,6 @@
 #include "Views/Style/SymbolButton.h"
 
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/Symbol.h"
 
 #include <QtGui/QKeyEvent>
@@ -46,8 +47,10 @@ void SymbolButton::paintEvent(QPaintEvent * /*event*/) {
   const FillStyle fill = isDown() ? FillStyle::primary : m_fill;
   Symbol::draw(painter, rect(), m_symbol, side(), fillColor(fill, palette()));
   if (hasFocus()) {
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    constexpr double radius = 4;
+    constexpr double inset = FocusRing::width / 2;
+    FocusRing::draw(painter, palette(), QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                    radius);
   }
 }
 

@@ -18,9 +18,10 @@ struct Alert {
   /// has only "OK". The keyboard is with the other button at first.
   QString destructiveAction;
 
-  /// Shows the alert over \p window and returns; \p window owns it. \p confirmed is called when the
-  /// user chooses the destructive action, never on Escape, "Cancel" or the window's end.
-  QDialog *show(QWidget *window, const std::function<void()> &confirmed = {}) const;
+  /// Shows the alert over the window of \p owner, which owns it, and returns. \p confirmed is
+  /// called when the user chooses the destructive action, never on Escape or "Cancel", nor once \p
+  /// owner is gone.
+  QDialog *show(QWidget *owner, const std::function<void()> &confirmed = {}) const;
 };
 
 }  // namespace lanternix

@@ -1,5 +1,6 @@
 #include "Views/Controls/FormSection.h"
 
+#include "Views/Controls/TextColumn.h"
 #include "Views/Style/DividerLine.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/TextLabel.h"
@@ -56,7 +57,7 @@ FormSection::FormSection(const QString &title, QWidget *parent)
 void FormSection::setTitle(const QString &title) {
   m_title->setText(title);
   m_title->setVisible(!title.isEmpty());
-  m_box->setAccessibleName(title);
+  setAccessibleName(title);
 }
 
 void FormSection::addRow(QWidget *row) {
@@ -73,18 +74,16 @@ void FormSection::addRow(QWidget *row) {
 }
 
 void FormSection::addRow(const QString &title, const QString &caption, QWidget *control) {
-  auto *row = new QWidget;
+  auto *row = new QWidget(m_box);
   auto *layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  auto *texts = new QVBoxLayout;
-  texts->setSpacing(2);
   const QFont::Weight weight = caption.isEmpty() ? QFont::Normal : QFont::Medium;
-  texts->addWidget(new TextLabel(title, TextStyle::body, weight, FillStyle::primary, row));
+  QList<QWidget *> texts{new TextLabel(title, TextStyle::body, weight, FillStyle::primary, row)};
   if (!caption.isEmpty()) {
-    texts->addWidget(
+    texts.append(
         new TextLabel(caption, TextStyle::caption, QFont::Normal, FillStyle::secondary, row));
   }
-  layout->addLayout(texts);
+  TextColumn::addClose(*layout, texts);
   layout->addStretch();
   layout->addWidget(control);
   addRow(row);

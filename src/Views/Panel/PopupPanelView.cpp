@@ -27,6 +27,8 @@
 #include <QtWidgets/QStackedLayout>
 #include <QtWidgets/QVBoxLayout>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
@@ -54,11 +56,13 @@ PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
       m_emptyState(new EmptyStateView(this)),
       m_noResults(new NoResultsView(this)),
       m_messages(new QScrollArea(this)),
-      m_body(new QStackedLayout) {
+      m_body(nullptr) {
   auto *header = new PanelHeaderView(this);
   connect(header, &PanelHeaderView::settingsRequested, this, &PopupPanelView::openSettings);
   connect(m_emptyState, &EmptyStateView::settingsRequested, this, &PopupPanelView::openSettings);
 
+  auto body = std::make_unique<QStackedLayout>();
+  m_body = body.get();
   m_body->addWidget(m_list);
   m_body->addWidget(makeMessages());
 
@@ -68,7 +72,7 @@ PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
   layout->addWidget(header);
   layout->addWidget(makeSearchRow());
   layout->addWidget(new DividerLine(this));
-  layout->addLayout(m_body, 1);
+  layout->addLayout(body.release(), 1);
   layout->addWidget(new DividerLine(this));
   layout->addWidget(new PanelFooterView(appState, this));
   PanelAccessibility::readInOrderOf(*layout);
@@ -93,7 +97,7 @@ QWidget *PopupPanelView::makeSearchRow() {
 }
 
 QWidget *PopupPanelView::makeMessages() {
-  auto *content = new QWidget;
+  auto *content = new QWidget(m_messages);
   auto *layout = new QVBoxLayout(content);
   layout->setContentsMargins(0, 10, 0, 10);
   layout->setSpacing(4);

@@ -148,6 +148,9 @@ void AppDelegate::storePanelSize() {
   m_userDefaults.setReal(m_panel->frame().height(), Preferences::panelHeight.key);
 }
 
+// While the panel is on the screen these keys are its own, whichever of the program's windows has
+// the keyboard: it lies in front of all of them and says "esc close" at its foot, so Escape takes
+// away what is in front first, and what a press does can be told by looking.
 bool AppDelegate::handleKey(const QKeyEvent &press) {
   if (!m_panel->isVisible()) {
     return false;

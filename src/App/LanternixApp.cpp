@@ -52,12 +52,23 @@ void followCompositing(const WindowSystem &windowSystem, LanternixStyle &style) 
   apply();
 }
 
-std::unique_ptr<StatusItem> makeStatusItem(AppDelegate &delegate, Platform &platform) {
-  auto item = std::make_unique<StatusItem>(delegate.appState(), platform.systemTray());
-  QObject::connect(item.get(), &StatusItem::quitRequested, QCoreApplication::instance(),
-                   &QCoreApplication::quit);
-  return item;
-}
+/// Owns the program's item in the tray, and is asked for it by the event loop at its leisure.
+class TrayShell : public QObject {
+ public:
+  TrayShell(AppDelegate &delegate, Platform &platform)
+      : m_delegate(delegate), m_platform(platform) {}
+
+  void makeItem() {
+    m_item = std::make_unique<StatusItem>(m_delegate.appState(), m_platform.systemTray());
+    connect(m_item.get(), &StatusItem::quitRequested, QCoreApplication::instance(),
+            &QCoreApplication::quit);
+  }
+
+ private:
+  AppDelegate &m_delegate;
+  Platform &m_platform;
+  std::unique_ptr<StatusItem> m_item;
+};
 
 /// Ends the event loop, and with it the program, when the system wants that.
 void followTermination(const Application &application, const TerminationMonitor &monitor) {
@@ -99,10 +110,9 @@ int runShell(const SingleInstance &instance, const ActivationToken &token, Lante
                        platform->loginItem());
   answerRequests(instance, delegate, platform->windowSystem());
   delegate.applicationDidFinishLaunching();
-  std::unique_ptr<StatusItem> statusItem;
+  TrayShell tray(delegate, *platform);
   // Queued: a tray can wait until the program answers its shortcut.
-  QMetaObject::invokeMethod(
-      &delegate, [&] { statusItem = makeStatusItem(delegate, *platform); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(&tray, &TrayShell::makeItem, Qt::QueuedConnection);
   return QApplication::exec();
 }
 

@@ -126,6 +126,26 @@ TEST_F(KeyboardTest, Arrows_LeaveTheCaretOfTheSearchFieldWhereItIs) {
   EXPECT_FALSE(isMarked(u"abc"_s));
 }
 
+TEST_F(KeyboardTest, LettersAfterTab_AreSearchedFor) {
+  startWithThree();
+  input().tap(XK_Tab);
+  input().type(u"second"_s);
+  input().tap(XK_Return);
+  EXPECT_TRUE(becomesMarked(u"second"_s));
+}
+
+TEST_F(KeyboardTest, TabAndReturn_OpenTheSettings) {
+  startWithThree();
+  input().tap(XK_Tab);
+  input().tap(XK_Return);
+  EXPECT_TRUE(becomesHidden());
+  EXPECT_TRUE(waitUntil([this] {
+    const auto settings = session().windows().find(u"lanternix"_s, u"Lanternix Settings"_s);
+    return settings.has_value() && session().windows().hasFocus(*settings);
+  }));
+  EXPECT_FALSE(isMarked(u"first"_s));
+}
+
 TEST_F(KeyboardTest, Comma_IsTyped) {
   start(commands({u"plain"_s, u"with, comma"_s}));
   input().type(u","_s);

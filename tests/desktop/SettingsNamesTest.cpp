@@ -82,6 +82,20 @@ TEST_F(SettingsNamesTest, EveryControlOfTheGroupEditor_HasAName) {
   EXPECT_EQ(nameless(controls), QStringList()) << controls.join(u'\n').toStdString();
 }
 
+TEST_F(SettingsNamesTest, TheChoicesOfTheGroupEditor_StandInNamedGroups) {
+  openTwoItems();
+  click(button(u"Add Group"_s));
+  const auto editor = dialog(u"New Group"_s);
+  for (const auto &[name, first] :
+       {std::pair(u"Icon"_s, u"Folder"_s), std::pair(u"Color"_s, u"Red"_s)}) {
+    const auto section = reader.find(editor, u"panel"_s, name);
+    const auto choices = reader.children(reader.find(section, u"panel"_s, name));
+    ASSERT_FALSE(choices.isEmpty());
+    EXPECT_EQ(reader.role(choices.front()), u"radio button"_s);
+    EXPECT_EQ(reader.name(choices.front()), first);
+  }
+}
+
 TEST_F(SettingsNamesTest, EveryControlOfTheItemEditor_HasAName) {
   openTwoItems();
   select(u"Work"_s);

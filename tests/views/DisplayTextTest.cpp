@@ -52,6 +52,14 @@ TEST(DisplayText, AVeryLongText_KeepsItsTwoEnds) {
   EXPECT_TRUE(shown.endsWith(u"/end.txt"));
 }
 
+TEST(DisplayText, AVeryLongTextOfCharactersOfTwoUnits_IsNotCutWithinOne) {
+  const QString odd = u'x' + QStringLiteral("😀").repeated(1000) + u'y';
+  // Wide enough for all that is measured.
+  for (const Qt::TextElideMode mode : {Qt::ElideRight, Qt::ElideMiddle}) {
+    EXPECT_TRUE(elided(odd, mode, 100'000).isValidUtf16());
+  }
+}
+
 TEST(DisplayText, AVeryLongName_KeepsItsBeginning) {
   const QString shown = elided(QString(100'000, u'W'), Qt::ElideRight, 200);
   EXPECT_LE(widthOf(shown), 200);

@@ -1,4 +1,5 @@
 #include "Views/Style/Contrast.h"
+#include "Views/Style/Destructive.h"
 #include "Views/Style/Palettes.h"
 #include "Views/Style/SystemColors.h"
 
@@ -143,8 +144,23 @@ TEST_F(FieldDrawingTest, AComboBox_HasRoomForItsLongestText) {
   EXPECT_GT(box->sizeHint().width(), box->fontMetrics().horizontalAdvance(u"Directory"_s) + 20);
 }
 
+TEST_F(FieldDrawingTest, ADestructiveButtonThatReturnPresses_IsFilledWithARedThatCanBeReadOn) {
+  markDestructive(*button);
+  button->setDefault(true);
+  for (const QPalette &colors : {Palettes::light(), Palettes::dark()}) {
+    QApplication::setPalette(colors);
+    QCoreApplication::processEvents();
+    const QImage image = button->grab().toImage();
+    const QColor ground = image.pixelColor(image.width() / 2, 4);
+    EXPECT_GT(ground.red(), ground.green() + 60);
+    EXPECT_GT(ground.red(), ground.blue() + 60);
+    const QColor text = ink(image.copy(8, 4, image.width() - 16, image.height() - 8), ground);
+    EXPECT_GE(Contrast::ratio(text, ground), Contrast::ofText - 0.1);
+  }
+}
+
 TEST_F(FieldDrawingTest, ADestructiveButton_IsWrittenInARedThatCanBeRead) {
-  button->setProperty("destructive", true);
+  markDestructive(*button);
   for (const QPalette &colors : {Palettes::light(), Palettes::dark()}) {
     QApplication::setPalette(colors);
     QCoreApplication::processEvents();

@@ -25,7 +25,7 @@ class FormTest : public ViewTest {
   template <typename Widget>
   static Widget *named(const QWidget &parent, const QString &name) {
     for (Widget *widget : parent.findChildren<Widget *>()) {
-      if (widget->accessibleName() == name && !widget->isHidden()) {
+      if (widget->accessibleName() == name && widget->isVisibleTo(&parent)) {
         return widget;
       }
     }
@@ -34,7 +34,7 @@ class FormTest : public ViewTest {
 
   static QAbstractButton *button(const QWidget &parent, const QString &text) {
     for (QAbstractButton *candidate : parent.findChildren<QAbstractButton *>()) {
-      if (candidate->text() == text && !candidate->isHidden()) {
+      if (candidate->text() == text && candidate->isVisibleTo(&parent)) {
         return candidate;
       }
     }
@@ -44,8 +44,9 @@ class FormTest : public ViewTest {
   /// Every text that is shown, from top to bottom.
   static QStringList texts(const QWidget &parent) {
     QList<QLabel *> labels = parent.findChildren<QLabel *>();
-    labels.removeIf(
-        [](const QLabel *label) { return label->isHidden() || label->text().isEmpty(); });
+    labels.removeIf([&parent](const QLabel *label) {
+      return !label->isVisibleTo(&parent) || label->text().isEmpty();
+    });
     std::stable_sort(labels.begin(), labels.end(), [&parent](const QLabel *a, const QLabel *b) {
       return a->mapTo(&parent, QPoint()).y() < b->mapTo(&parent, QPoint()).y();
     });

@@ -1,3 +1,4 @@
+#include "Views/Controls/ChoiceCell.h"
 #include "views/GroupEditorViewTest.h"
 
 #include <algorithm>
@@ -73,7 +74,7 @@ TEST_F(GroupEditorChoicesTest, EveryCell_HasANameOfItsOwn) {
 
 TEST_F(GroupEditorChoicesTest, CellsOfIcons_Are32By32WithAtLeast8BetweenThem) {
   const GroupEditorView *editor = open();
-  const QList<QAbstractButton *> &cells = grid(*editor, u"Icon"_s)->cells();
+  const QList<ChoiceCell *> &cells = grid(*editor, u"Icon"_s)->cells();
   for (const QAbstractButton *cell : cells) {
     EXPECT_EQ(cell->size(), QSize(32, 32));
   }
@@ -86,7 +87,7 @@ TEST_F(GroupEditorChoicesTest, CellsOfIcons_Are32By32WithAtLeast8BetweenThem) {
 
 TEST_F(GroupEditorChoicesTest, Circles_Are24WideWith8BetweenThem) {
   const GroupEditorView *editor = open();
-  const QList<QAbstractButton *> &cells = grid(*editor, u"Color"_s)->cells();
+  const QList<ChoiceCell *> &cells = grid(*editor, u"Color"_s)->cells();
   EXPECT_EQ(cells[0]->size(), QSize(24, 24));
   EXPECT_EQ(cells[1]->x() - cells[0]->geometry().right() - 1, 8);
   EXPECT_EQ(cells.last()->y(), cells[0]->y());
@@ -94,7 +95,7 @@ TEST_F(GroupEditorChoicesTest, Circles_Are24WideWith8BetweenThem) {
 
 TEST_F(GroupEditorChoicesTest, TheSelectedCircle_HasARingAndAWhiteMark) {
   const GroupEditorView *editor = open();
-  const QList<QAbstractButton *> &cells = grid(*editor, u"Color"_s)->cells();
+  const QList<ChoiceCell *> &cells = grid(*editor, u"Color"_s)->cells();
   const auto whiteness = [](QAbstractButton *cell) {
     const QImage picture = cell->grab().toImage();
     int most = 0;
@@ -115,7 +116,7 @@ TEST_F(GroupEditorChoicesTest, TheSelectedCircle_HasARingAndAWhiteMark) {
 
 TEST_F(GroupEditorChoicesTest, TheSelectedIcon_HasALineOfTheAccentColour) {
   const GroupEditorView *editor = open();
-  const QList<QAbstractButton *> &cells = grid(*editor, u"Icon"_s)->cells();
+  const QList<ChoiceCell *> &cells = grid(*editor, u"Icon"_s)->cells();
   const QColor accent = window.palette().color(QPalette::Highlight);
   EXPECT_EQ(cells[0]->grab().toImage().pixelColor(16, 0), accent);
   EXPECT_NE(cells[1]->grab().toImage().pixelColor(16, 0), accent);

@@ -1,5 +1,7 @@
 #include "views/GroupEditorViewTest.h"
 
+#include "Views/Controls/ChoiceCell.h"
+
 #include <QtCore/QPointer>
 #include <QtGui/QClipboard>
 

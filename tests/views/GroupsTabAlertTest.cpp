@@ -87,6 +87,23 @@ TEST_F(GroupsTabAlertTest, EscapeAndCancel_DeleteNothing) {
   EXPECT_EQ(state->groups().size(), 2);
 }
 
+TEST_F(GroupsTabAlertTest, Return_DoesWhatTheButtonWithTheKeyboardSays) {
+  show();
+  click(groupList(), 0);
+  press(groupList(), Qt::Key_Delete);
+  dialog()->activateWindow();
+  QTest::keyClick(dialog()->focusWidget(), Qt::Key_Return);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(state->groups().size(), 2) << "at first it is Cancel";
+  press(groupList(), Qt::Key_Delete);
+  dialog()->activateWindow();
+  QTest::keyClick(dialog()->focusWidget(), Qt::Key_Tab);
+  QTest::keyClick(dialog()->focusWidget(), Qt::Key_Return);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(dialog(), nullptr);
+  EXPECT_EQ(names(state->groups()), QStringList(u"Home"_s));
+}
+
 TEST_F(GroupsTabAlertTest, DeletingAnItem_AsksFirst) {
   show();
   click(groupList(), 0);
@@ -121,6 +138,14 @@ TEST_F(GroupsTabAlertTest, ALongName_IsAskedAboutByItsEnds) {
   press(groupList(), Qt::Key_Delete);
   EXPECT_LT(dialog()->height(), 400);
   EXPECT_TRUE(dialogTexts().front().endsWith(u"end\"?"_s));
+}
+
+TEST_F(GroupsTabAlertTest, ALongNameOfEmoji_IsNotCutWithinOne) {
+  work.name = u'x' + u"😀"_s.repeated(200) + u'y';
+  show({work}, {});
+  click(groupList(), 0);
+  press(groupList(), Qt::Key_Delete);
+  EXPECT_TRUE(dialogTexts().front().isValidUtf16());
 }
 
 TEST_F(GroupsTabAlertTest, AnUnbrokenName_IsBrokenIntoLines) {

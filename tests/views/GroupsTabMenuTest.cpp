@@ -1,5 +1,6 @@
 #include "Views/Settings/GroupEditorView.h"
 #include "Views/Settings/ItemEditorView.h"
+#include "Views/Style/Destructive.h"
 #include "views/GroupsTabTest.h"
 
 using namespace Qt::StringLiterals;
@@ -88,7 +89,7 @@ TEST_F(GroupsTabMenuTest, MoveToGroup_IsAbsentWithoutAnotherGroup) {
 TEST_F(GroupsTabMenuTest, DeleteItem_IsMarkedAndAsks) {
   show();
   QMenu *menu = openItemMenu(1);
-  EXPECT_TRUE(menu->actions().last()->property("destructive").toBool());
+  EXPECT_TRUE(isDestructive(menu->actions().last()));
   choose(*menu, u"Delete Item"_s);
   EXPECT_EQ(dialogTexts().front(), u"Delete \"Notes\"?"_s);
 }

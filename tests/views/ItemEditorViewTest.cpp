@@ -134,6 +134,35 @@ TEST_F(ItemEditorViewTest, Escape_ClosesTheSheetWithoutChanges) {
   EXPECT_TRUE(state->items().isEmpty());
 }
 
+TEST_F(ItemEditorViewTest, ReturnOnCancel_ChangesNothing) {
+  QPointer<ItemEditorView> editor = openEditing(typed(ItemType::file));
+  fill(*editor, u"Other"_s, u"/other"_s);
+  button(*editor, u"Cancel"_s)->setFocus(Qt::TabFocusReason);
+  press(*editor, Qt::Key_Return);
+  EXPECT_TRUE(waitUntil([&] { return editor.isNull(); }));
+  EXPECT_EQ(state->items().first().name, u"Thing"_s);
+  EXPECT_EQ(state->items().first().path, u"/tmp"_s);
+}
+
+TEST_F(ItemEditorViewTest, ReturnOnBrowse_BrowsesAndLeavesTheSheetOpen) {
+  ItemEditorView *editor = openNew();
+  fill(*editor, u"Other"_s, u"/other"_s);
+  button(*editor, u"Browse..."_s)->setFocus(Qt::TabFocusReason);
+  press(*editor, Qt::Key_Return);
+  EXPECT_EQ(fileChooser.requests.size(), 1);
+  EXPECT_TRUE(state->items().isEmpty());
+  EXPECT_TRUE(editor->isVisible());
+}
+
+TEST_F(ItemEditorViewTest, ReturnInAFieldAfterAVisitToCancel_Saves) {
+  ItemEditorView *editor = openNew();
+  fill(*editor, u"Other"_s, u"/other"_s);
+  button(*editor, u"Cancel"_s)->setFocus(Qt::TabFocusReason);
+  field(*editor, u"Name"_s)->setFocus(Qt::TabFocusReason);
+  press(*editor, Qt::Key_Return);
+  EXPECT_EQ(state->items().size(), 1);
+}
+
 TEST_F(ItemEditorViewTest, TheChosenType_IsSaved) {
   const ItemEditorView *editor = openNew();
   picker(*editor, u"Type"_s)->setCurrentIndex(3);

@@ -9,7 +9,10 @@
 #include "Views/Style/TextLabel.h"
 #include "views/ViewTest.h"
 
+#include <QtGui/QContextMenuEvent>
 #include <QtTest/QTest>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
 #include <gmock/gmock.h>
@@ -34,6 +37,16 @@ class PopupPanelViewTest : public ViewTest {
   QString count() const {
     return view->findChild<PanelFooterView *>()->findChild<TextLabel *>()->text();
   }
+
+  SymbolButton *settingsButton() const {
+    for (SymbolButton *button : view->findChildren<SymbolButton *>()) {
+      if (button->toolTip() == QStringLiteral("Settings")) {
+        return button;
+      }
+    }
+    return nullptr;
+  }
+  QLineEdit *field() const { return view->findChild<QLineEdit *>(); }
 
   QStringList hints() const {
     QStringList names;
@@ -130,11 +143,7 @@ TEST_F(PopupPanelViewTest, BothSettingsButtons_HideThePanelAndOpenTheSettings) {
   QTest::mouseClick(view->findChild<QPushButton *>(), Qt::LeftButton);
   EXPECT_EQ(hidden, 1);
   EXPECT_EQ(opened_, 1);
-  for (SymbolButton *button : view->findChildren<SymbolButton *>()) {
-    if (button->toolTip() == QStringLiteral("Settings")) {
-      QTest::mouseClick(button, Qt::LeftButton);
-    }
-  }
+  QTest::mouseClick(settingsButton(), Qt::LeftButton);
   EXPECT_EQ(hidden, 2);
   EXPECT_EQ(opened_, 2);
 }
@@ -151,6 +160,59 @@ TEST_F(PopupPanelViewTest, DrawnOverAnOlderPicture_LooksTheSame) {
   ASSERT_LT(once.pixelColor(350, 400).alpha(), 255) << "nothing shows through";
   draw();
   EXPECT_EQ(picture.pixelColor(350, 400), once.pixelColor(350, 400));
+}
+
+TEST_F(PopupPanelViewTest, ReturnOnTheSettingsButton_OpensTheSettings) {
+  show({work}, {report});
+  int settings = 0;
+  state->onOpenSettings = [&] { ++settings; };
+  QTest::keyClick(settingsButton(), Qt::Key_Return);
+  QTest::keyClick(settingsButton(), Qt::Key_Enter);
+  EXPECT_EQ(settings, 2);
+}
+
+TEST_F(PopupPanelViewTest, LettersTypedOverAButton_AreSearchedFor) {
+  show({work}, {report});
+  view->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+  view->focusSearch();
+  QTest::keyClick(field(), Qt::Key_E);
+  settingsButton()->setFocus(Qt::TabFocusReason);
+  for (const char letter : {'r', 'e', 'p'}) {
+    QTest::keyClick(QApplication::focusWidget(), letter);
+  }
+  EXPECT_EQ(state->searchQuery(), QStringLiteral("erep"));
+  EXPECT_TRUE(field()->hasFocus());
+  settingsButton()->setFocus(Qt::TabFocusReason);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
+  EXPECT_EQ(state->searchQuery(), QStringLiteral("ere"));
+}
+
+TEST_F(PopupPanelViewTest, CommandsOverAButton_AreNotSearchedFor) {
+  show({work}, {report});
+  view->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(view.get()));
+  settingsButton()->setFocus(Qt::TabFocusReason);
+  for (const Qt::KeyboardModifier command :
+       {Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier}) {
+    QTest::keyClick(settingsButton(), 'q', command);
+  }
+  QTest::keyClick(settingsButton(), Qt::Key_Delete);
+  EXPECT_EQ(state->searchQuery(), QString());
+  EXPECT_TRUE(settingsButton()->hasFocus());
+}
+
+TEST_F(PopupPanelViewTest, TheMenuKeysOverAButton_OpenTheMenuOfTheSelectedItem) {
+  show({work}, {report});
+  state->navigateDown();
+  settingsButton()->setFocus(Qt::TabFocusReason);
+  QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, {}, {});
+  QApplication::sendEvent(settingsButton(), &menuKey);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QApplication::activePopupWidget()->close();
+  QTest::keyClick(settingsButton(), Qt::Key_F10, Qt::ShiftModifier);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QApplication::activePopupWidget()->close();
 }
 
 }  // namespace lanternix

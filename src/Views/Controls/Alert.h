@@ -15,12 +15,13 @@ struct Alert {
   /// Empty where the title says it all.
   QString message;
   /// The label of the button that carries out what the alert is about; empty for a message that
-  /// has only "OK".
+  /// has only "OK". The keyboard is with the other button at first.
   QString destructiveAction;
 
-  /// Shows the alert over \p window and returns; \p window owns it. \p confirmed is called when the
-  /// user chooses the destructive action, never on Escape, "Cancel" or the window's end.
-  QDialog *show(QWidget *window, const std::function<void()> &confirmed = {}) const;
+  /// Shows the alert over the window of \p owner, which owns it, and returns. \p confirmed is
+  /// called when the user chooses the destructive action, never on Escape or "Cancel", nor once \p
+  /// owner is gone.
+  QDialog *show(QWidget *owner, const std::function<void()> &confirmed = {}) const;
 };
 
 }  // namespace lanternix

@@ -1,10 +1,10 @@
 #include "Views/Controls/ChoiceGrid.h"
 
-#include "Views/Style/SystemColors.h"
+#include "Views/Controls/ChoiceCell.h"
+#include "Views/Style/FocusRing.h"
 
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
-#include <QtWidgets/QAbstractButton>
 
 #include <algorithm>
 
@@ -14,7 +14,6 @@ namespace {
 
 constexpr int spacing = 8;
 constexpr int ringMargin = 3;  // room for the ring, all around
-constexpr double ringWidth = 2;
 
 }  // namespace
 
@@ -26,7 +25,7 @@ ChoiceGrid::ChoiceGrid(const QString &name, const Shape &shape, QWidget *parent)
   setSizePolicy(policy);
 }
 
-void ChoiceGrid::addCell(QAbstractButton *cell) {
+void ChoiceGrid::addCell(ChoiceCell *cell) {
   cell->setParent(this);
   cell->setCheckable(true);
   cell->setAutoExclusive(true);
@@ -153,15 +152,11 @@ void ChoiceGrid::paintEvent(QPaintEvent * /*event*/) {
   if (focused == m_cells.end()) {
     return;
   }
-  constexpr float ringOpacity = 0.5F;
-  constexpr double distance = ringMargin - ringWidth / 2;
+  constexpr double distance = ringMargin - FocusRing::width / 2;
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(withOpacity(accentColor(palette()), ringOpacity), ringWidth));
-  const double radius = m_shape.cellRadius + distance;
-  painter.drawRoundedRect(
-      QRectF((*focused)->geometry()).adjusted(-distance, -distance, distance, distance), radius,
-      radius);
+  FocusRing::draw(painter, palette(),
+                  QRectF((*focused)->geometry()).adjusted(-distance, -distance, distance, distance),
+                  m_shape.cellRadius + distance);
 }
 
 }  // namespace lanternix

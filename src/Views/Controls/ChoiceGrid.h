@@ -3,9 +3,9 @@
 #include <QtCore/QList>
 #include <QtWidgets/QWidget>
 
-class QAbstractButton;
-
 namespace lanternix {
+
+class ChoiceCell;
 
 /// A choice of one among many cells, in as many columns as find room. It takes one stop of the Tab
 /// key: the arrow keys, Home and End choose. Nothing need be chosen at first.
@@ -14,11 +14,11 @@ class ChoiceGrid : public QWidget {
 
  public:
   struct Shape {
-    /// Columns are at least this wide; they share what room is left.
+    /// Columns are at least this wide.
     int narrowestColumn = 0;
     /// Of the ring around the cell that has the keyboard.
     double cellRadius = 0;
-    /// Whether columns share what room is left.
+    /// Whether the columns share what room is left; otherwise it stays at the end.
     bool fillsWidth = true;
   };
 
@@ -26,8 +26,8 @@ class ChoiceGrid : public QWidget {
   ChoiceGrid(const QString &name, const Shape &shape, QWidget *parent = nullptr);
 
   /// Appends \p cell, which excludes the others and which the grid owns from now on.
-  void addCell(QAbstractButton *cell);
-  const QList<QAbstractButton *> &cells() const { return m_cells; }
+  void addCell(ChoiceCell *cell);
+  const QList<ChoiceCell *> &cells() const { return m_cells; }
 
   /// -1 while nothing is chosen.
   int currentIndex() const;
@@ -55,7 +55,7 @@ class ChoiceGrid : public QWidget {
   bool handleKey(int index, int key);
 
   Shape m_shape;
-  QList<QAbstractButton *> m_cells;
+  QList<ChoiceCell *> m_cells;
 };
 
 }  // namespace lanternix

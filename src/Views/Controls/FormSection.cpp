@@ -1,5 +1,6 @@
 #include "Views/Controls/FormSection.h"
 
+#include "Views/Controls/TextColumn.h"
 #include "Views/Style/DividerLine.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/TextLabel.h"
@@ -7,6 +8,8 @@
 #include <QtGui/QPainter>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QVBoxLayout>
+
+#include <memory>
 
 namespace lanternix {
 
@@ -54,16 +57,14 @@ FormSection::FormSection(const QString &title, QWidget *parent)
 void FormSection::setTitle(const QString &title) {
   m_title->setText(title);
   m_title->setVisible(!title.isEmpty());
-  m_box->setAccessibleName(title);
+  setAccessibleName(title);
 }
 
 void FormSection::addRow(QWidget *row) {
   if (m_rows->count() > 0) {
     auto *line = new DividerLine(m_box);
-    auto *indented = new QHBoxLayout;
-    indented->setContentsMargins(rowSidePadding, 0, rowSidePadding, 0);
-    indented->addWidget(line);
-    m_rows->addLayout(indented);
+    line->setContentsMargins(rowSidePadding, 0, rowSidePadding, 0);
+    m_rows->addWidget(line);
   }
   auto *padded = new QWidget(m_box);
   auto *layout = new QHBoxLayout(padded);
@@ -73,30 +74,26 @@ void FormSection::addRow(QWidget *row) {
 }
 
 void FormSection::addRow(const QString &title, const QString &caption, QWidget *control) {
-  auto *row = new QWidget;
+  auto *row = new QWidget(m_box);
   auto *layout = new QHBoxLayout(row);
   layout->setContentsMargins(0, 0, 0, 0);
-  auto *texts = new QVBoxLayout;
-  texts->setSpacing(2);
   const QFont::Weight weight = caption.isEmpty() ? QFont::Normal : QFont::Medium;
-  texts->addWidget(new TextLabel(title, TextStyle::body, weight, FillStyle::primary, row));
+  QList<QWidget *> texts{new TextLabel(title, TextStyle::body, weight, FillStyle::primary, row)};
   if (!caption.isEmpty()) {
-    texts->addWidget(
+    texts.append(
         new TextLabel(caption, TextStyle::caption, QFont::Normal, FillStyle::secondary, row));
   }
-  layout->addLayout(texts);
+  TextColumn::addClose(*layout, texts);
   layout->addStretch();
   layout->addWidget(control);
   addRow(row);
 }
 
 void FormSection::clear() {
-  while (QLayoutItem *item = m_rows->takeAt(0)) {
-    if (QLayout *inner = item->layout()) {
-      delete inner->takeAt(0)->widget();
-    }
-    delete item->widget();
-    delete item;
+  while (const std::unique_ptr<QLayoutItem> item{m_rows->takeAt(0)}) {
+    // A row may be cleared by what a press on it has brought about, before the press gets there.
+    item->widget()->hide();
+    item->widget()->deleteLater();
   }
 }
 

@@ -16,7 +16,7 @@ constexpr int sectionSpacing = 18;
 }  // namespace
 
 FormView::FormView(QWidget *parent) : QScrollArea(parent) {
-  auto *content = new QWidget;
+  auto *content = new QWidget(this);
   m_sections = new QVBoxLayout(content);
   m_sections->setContentsMargins(padding, padding, padding, padding);
   m_sections->setSpacing(sectionSpacing);
@@ -31,7 +31,8 @@ FormView::FormView(QWidget *parent) : QScrollArea(parent) {
   new SlimScrollBar(this);  // which owns it
   // What the keyboard moves to comes into sight; what is clicked stays under the pointer.
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget * /*old*/, QWidget *now) {
-    if (now != nullptr && widget()->isAncestorOf(now) &&
+    const QWidget *page = widget();  // none any more while the form is being deleted
+    if (now != nullptr && page != nullptr && page->isAncestorOf(now) &&
         QGuiApplication::mouseButtons() == Qt::NoButton) {
       ensureWidgetVisible(now);
     }

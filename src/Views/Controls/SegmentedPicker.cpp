@@ -1,15 +1,13 @@
 #include "Views/Controls/SegmentedPicker.h"
 
 #include "Views/Style/FillStyle.h"
-#include "Views/Style/SystemColors.h"
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/TextStyle.h"
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QRadioButton>
-
-#include <algorithm>
 
 namespace lanternix {
 
@@ -19,6 +17,7 @@ constexpr double radius = 6;
 constexpr int inset = 2;
 constexpr int margin = 3;  // as much as the ring of the controls above and below takes
 constexpr int linePadding = 4;
+constexpr int sidePadding = 6;
 
 /// One of the choices. A radio button, so that keys and screen readers take it for what it is.
 class Segment : public QRadioButton {
@@ -26,7 +25,6 @@ class Segment : public QRadioButton {
   using QRadioButton::QRadioButton;
 
   QSize sizeHint() const override {
-    constexpr int sidePadding = 10;
     return fontMetrics().size(Qt::TextHideMnemonic, text()) +
            QSize(2 * sidePadding, 2 * linePadding);
   }
@@ -45,10 +43,7 @@ class Segment : public QRadioButton {
       painter.drawRoundedRect(shape, radius - inset, radius - inset);
     }
     if (hasFocus()) {
-      constexpr float ringOpacity = 0.5F;
-      painter.setPen(QPen(withOpacity(accentColor(palette()), ringOpacity), 2));
-      painter.setBrush(Qt::NoBrush);
-      painter.drawRoundedRect(shape, radius - inset, radius - inset);
+      FocusRing::draw(painter, palette(), shape, radius - inset);
     }
     painter.setPen(fillColor(FillStyle::primary, palette()));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextHideMnemonic, text());
@@ -77,7 +72,7 @@ SegmentedPicker::SegmentedPicker(const QString &name, const QStringList &texts, 
   });
 }
 
-/// Only there; within the choice the arrows do the rest.
+/// The Tab key stops at one segment only; from there the arrows go to the others.
 void SegmentedPicker::letTabStopAt(int index) {
   const QList<QAbstractButton *> segments = m_buttons->buttons();
   for (QAbstractButton *segment : segments) {
@@ -96,15 +91,14 @@ void SegmentedPicker::setCurrentIndex(int index) {
   }
 }
 
-QSize SegmentedPicker::minimumSizeHint() const {
-  constexpr int sidePadding = 6;
-  int widest = 0;
+QSize SegmentedPicker::sizeHint() const {
+  QSize largest;
   const QList<QAbstractButton *> segments = m_buttons->buttons();
   for (const QAbstractButton *segment : segments) {
-    widest = std::max(widest, fontMetrics().horizontalAdvance(segment->text()));
+    largest = largest.expandedTo(segment->sizeHint());
   }
   const auto count = static_cast<int>(segments.size());
-  return {count * (widest + 2 * sidePadding) + 2 * margin, QWidget::minimumSizeHint().height()};
+  return {count * largest.width() + 2 * margin, largest.height() + 2 * margin};
 }
 
 void SegmentedPicker::paintEvent(QPaintEvent * /*event*/) {

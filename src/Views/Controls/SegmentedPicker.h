@@ -21,8 +21,9 @@ class SegmentedPicker : public QWidget {
   /// Says nothing by currentIndexChanged().
   void setCurrentIndex(int index);
 
-  /// Has room for every text.
-  QSize minimumSizeHint() const override;
+  /// Segments of equal width with room for every text.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  Q_SIGNALS:
   /// The user has chosen another one.

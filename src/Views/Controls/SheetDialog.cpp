@@ -8,6 +8,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
@@ -26,18 +28,16 @@ SheetDialog::SheetDialog(const QString &title, const QString &confirmation, QSiz
   setWindowModality(Qt::WindowModal);
   setWindowTitle(title);
   setFixedSize(size);
-  auto *header = new TextLabel(title, TextStyle::body, QFont::Bold, FillStyle::primary, this);
-  auto *headerBar = new QHBoxLayout;
-  headerBar->setContentsMargins(padding, padding, padding, padding);
-  headerBar->addWidget(header);
+  auto header = std::make_unique<QHBoxLayout>();
+  header->setContentsMargins(padding, padding, padding, padding);
+  header->addWidget(new TextLabel(title, TextStyle::body, QFont::Bold, FillStyle::primary, this));
 
   auto *cancel = new QPushButton(u"Cancel"_s, this);
-  cancel->setAutoDefault(false);
   m_confirm = new QPushButton(confirmation, this);
   m_confirm->setDefault(true);
   connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
   connect(m_confirm, &QPushButton::clicked, this, &SheetDialog::confirmed);
-  auto *bar = new QHBoxLayout;
+  auto bar = std::make_unique<QHBoxLayout>();
   bar->setContentsMargins(padding, padding, padding, padding);
   bar->addStretch();
   bar->addWidget(cancel);
@@ -48,11 +48,11 @@ SheetDialog::SheetDialog(const QString &title, const QString &confirmation, QSiz
   auto *layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  layout->addLayout(headerBar);
+  layout->addLayout(header.release());
   layout->addWidget(new DividerLine(this));
   layout->addWidget(m_form, 1);
   layout->addWidget(new DividerLine(this));
-  layout->addLayout(bar);
+  layout->addLayout(bar.release());
 }
 
 void SheetDialog::setConfirmable(bool confirmable) {

@@ -9,7 +9,7 @@ namespace lanternix {
 class FormView;
 
 /// An editor over a window, which waits until it is done: a title, a form, and a bar with "Cancel"
-/// (Escape) and a confirming button (Return).
+/// (Escape) and a confirming button (Return, unless another button has the keyboard).
 class SheetDialog : public QDialog {
   Q_OBJECT
 
@@ -24,6 +24,7 @@ class SheetDialog : public QDialog {
  protected:
   /// What is edited, between the title and the bar.
   FormView &form() { return *m_form; }
+  /// Whether what is there can be confirmed. At first it can.
   void setConfirmable(bool confirmable);
 
  private:

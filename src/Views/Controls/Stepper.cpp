@@ -1,6 +1,7 @@
 #include "Views/Controls/Stepper.h"
 
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QLineEdit>
 
 #include <utility>
 
@@ -58,6 +59,46 @@ QValidator::State Stepper::validate(QString &input, int & /*position*/) const {
 
 void Stepper::wheelEvent(QWheelEvent *event) {
   event->ignore();
+}
+
+/// Whether there is a number that is not finished yet.
+bool Stepper::isBeingTyped() const {
+  return lineEdit()->isModified();
+}
+
+// The spin box takes each of the next three for the end of the typing. Where the window or a menu
+// has the keyboard for a while, it comes back to the same place in the same text.
+
+void Stepper::focusOutEvent(QFocusEvent *event) {
+  const bool comesBack =
+      event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+  if (comesBack && isBeingTyped()) {
+    lineEdit()->event(event);  // where the caret stops
+    QWidget::focusOutEvent(event);
+    return;
+  }
+  QSpinBox::focusOutEvent(event);
+}
+
+void Stepper::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::ActivationChange && isBeingTyped()) {
+    QWidget::changeEvent(event);
+    return;
+  }
+  QSpinBox::changeEvent(event);
+}
+
+void Stepper::hideEvent(QHideEvent *event) {
+  if (!isBeingTyped()) {
+    QSpinBox::hideEvent(event);
+    return;
+  }
+  QWidget::hideEvent(event);
+  const bool isMinimized = event->spontaneous();
+  if (!isMinimized) {
+    // Not at once: a window that goes for good must not make anybody act any more.
+    QMetaObject::invokeMethod(this, &Stepper::interpretText, Qt::QueuedConnection);
+  }
 }
 
 }  // namespace lanternix

@@ -6,9 +6,10 @@ namespace lanternix {
 
 /// A whole number of things, stepped by its buttons and the arrow keys or typed.
 ///
-/// valueChanged() tells of a typed number when it is finished (Return, or the keyboard goes
-/// elsewhere): on the way to "30" nobody means 3. The wheel changes nothing, since it is meant for
-/// the page under the pointer.
+/// valueChanged() tells of a typed number when it is finished (Return, or the keyboard goes to
+/// another control): on the way to "30" nobody means 3, nor does who looks something up in another
+/// window before typing on. The wheel changes nothing, since it is meant for the page under the
+/// pointer.
 class Stepper : public QSpinBox {
   Q_OBJECT
 
@@ -22,8 +23,13 @@ class Stepper : public QSpinBox {
   int valueFromText(const QString &text) const override;
   QValidator::State validate(QString &input, int &position) const override;
   void wheelEvent(QWheelEvent *event) override;
+  void focusOutEvent(QFocusEvent *event) override;
+  void changeEvent(QEvent *event) override;
+  void hideEvent(QHideEvent *event) override;
 
  private:
+  bool isBeingTyped() const;
+
   QString m_unit;
 };
 

@@ -1,6 +1,7 @@
 #include "Views/Controls/ToggleSwitch.h"
 
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/SystemColors.h"
 
 #include <QtCore/QVariantAnimation>
@@ -81,10 +82,7 @@ void ToggleSwitch::paintEvent(QPaintEvent * /*event*/) {
   painter.drawEllipse(QRectF(track.left() + knobInset + travel * position(),
                              track.top() + knobInset, diameter, diameter));
   if (hasFocus()) {
-    constexpr float ringOpacity = 0.5F;
-    painter.setPen(QPen(withOpacity(accentColor(palette()), ringOpacity), 2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(track.adjusted(-2, -2, 2, 2), radius + 2, radius + 2);
+    FocusRing::draw(painter, palette(), track.adjusted(-2, -2, 2, 2), radius + 2);
   }
 }
 

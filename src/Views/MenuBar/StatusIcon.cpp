@@ -1,8 +1,8 @@
 #include "Views/MenuBar/StatusIcon.h"
 
+#include "Views/Style/PaintedIconEngine.h"
 #include "Views/Style/Symbol.h"
 
-#include <QtGui/QIconEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
 
@@ -31,7 +31,7 @@ QImage rim(double side, const QColor &color, double ratio) {
   return image;
 }
 
-class StatusIconEngine : public QIconEngine {
+class StatusIconEngine : public PaintedIconEngine {
  public:
   StatusIconEngine(const QColor &symbolColor, const QColor &rimColor)
       : m_symbolColor(symbolColor), m_rimColor(rimColor) {}
@@ -48,14 +48,6 @@ class StatusIconEngine : public QIconEngine {
     painter->setOpacity(1);
     painter->drawImage(corner, Symbol::image(symbol, side, m_symbolColor, ratio));
     painter->restore();
-  }
-
-  QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, pixmap.rect(), mode, state);
-    return pixmap;
   }
 
   QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {

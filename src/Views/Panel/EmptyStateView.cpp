@@ -9,6 +9,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
@@ -31,7 +33,7 @@ EmptyStateView::EmptyStateView(QWidget *parent)
   updateButton();
   connect(m_button, &QAbstractButton::clicked, this, &EmptyStateView::settingsRequested);
 
-  auto *texts = new QVBoxLayout;
+  auto texts = std::make_unique<QVBoxLayout>();
   texts->setSpacing(6);
   texts->addWidget(title, 0, Qt::AlignHCenter);
   texts->addWidget(hint, 0, Qt::AlignHCenter);
@@ -40,7 +42,7 @@ EmptyStateView::EmptyStateView(QWidget *parent)
   layout->setContentsMargins(0, 20, 0, 20);
   layout->setSpacing(16);
   layout->addWidget(mark, 0, Qt::AlignHCenter);
-  layout->addLayout(texts);
+  layout->addLayout(texts.release());
   layout->addWidget(m_button, 0, Qt::AlignHCenter);
   PanelAccessibility::readInOrderOf(*layout);
 }

@@ -1,6 +1,7 @@
 #include "Views/Panel/ItemContextMenu.h"
 
 #include "App/AppState.h"
+#include "Views/Style/Destructive.h"
 
 #include <QtGui/QClipboard>
 #include <QtGui/QGuiApplication>
@@ -23,7 +24,7 @@ void popUp(AppState &appState, const PathItem &item, const QPoint &position, QWi
   menu->addSeparator();
   QAction *remove =
       menu->addAction(u"Delete"_s, menu, [&appState, item] { appState.deleteItem(item.id); });
-  remove->setProperty("destructive", true);
+  markDestructive(*remove);
   menu->popup(position);
 }
 

@@ -18,6 +18,7 @@
 #include "Views/Style/SymbolButton.h"
 #include "Views/Style/SymbolLabel.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtGui/QContextMenuEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
@@ -26,9 +27,25 @@
 #include <QtWidgets/QStackedLayout>
 #include <QtWidgets/QVBoxLayout>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
+
+namespace {
+
+/// Whether the key changes a text, rather than being a command.
+bool isTyped(const QKeyEvent &press) {
+  if ((press.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) {
+    return false;
+  }
+  const QString text = press.text();
+  return press.key() == Qt::Key_Backspace ||
+         (!text.isEmpty() && text.front().category() != QChar::Other_Control);
+}
+
+}  // namespace
 
 PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
     : QWidget(parent),
@@ -39,11 +56,13 @@ PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
       m_emptyState(new EmptyStateView(this)),
       m_noResults(new NoResultsView(this)),
       m_messages(new QScrollArea(this)),
-      m_body(new QStackedLayout) {
+      m_body(nullptr) {
   auto *header = new PanelHeaderView(this);
   connect(header, &PanelHeaderView::settingsRequested, this, &PopupPanelView::openSettings);
   connect(m_emptyState, &EmptyStateView::settingsRequested, this, &PopupPanelView::openSettings);
 
+  auto body = std::make_unique<QStackedLayout>();
+  m_body = body.get();
   m_body->addWidget(m_list);
   m_body->addWidget(makeMessages());
 
@@ -53,7 +72,7 @@ PopupPanelView::PopupPanelView(AppState &appState, QWidget *parent)
   layout->addWidget(header);
   layout->addWidget(makeSearchRow());
   layout->addWidget(new DividerLine(this));
-  layout->addLayout(m_body, 1);
+  layout->addLayout(body.release(), 1);
   layout->addWidget(new DividerLine(this));
   layout->addWidget(new PanelFooterView(appState, this));
   PanelAccessibility::readInOrderOf(*layout);
@@ -78,7 +97,7 @@ QWidget *PopupPanelView::makeSearchRow() {
 }
 
 QWidget *PopupPanelView::makeMessages() {
-  auto *content = new QWidget;
+  auto *content = new QWidget(m_messages);
   auto *layout = new QVBoxLayout(content);
   layout->setContentsMargins(0, 10, 0, 10);
   layout->setSpacing(4);
@@ -124,19 +143,33 @@ void PopupPanelView::focusSearch() {
   m_searchBar->focusField();
 }
 
-// The keyboard is always with the search field, and its wish for a menu is meant for the item that
-// the arrow keys have selected.
+bool PopupPanelView::openMenuFor(const QContextMenuEvent &event) {
+  return event.reason() == QContextMenuEvent::Keyboard && m_list->openMenuOfSelection();
+}
+
+// The search field would open a menu of its own, as it does while no item is selected.
 bool PopupPanelView::eventFilter(QObject * /*watched*/, QEvent *event) {
-  if (event->type() == QEvent::ContextMenu) {
-    return static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard &&
-           m_list->openMenuOfSelection();
+  return event->type() == QEvent::ContextMenu &&
+         openMenuFor(*static_cast<QContextMenuEvent *>(event));
+}
+
+void PopupPanelView::contextMenuEvent(QContextMenuEvent *event) {
+  event->setAccepted(openMenuFor(*event));
+}
+
+// What comes here was of no use to the view that has the keyboard.
+void PopupPanelView::keyPressEvent(QKeyEvent *event) {
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+    event->setAccepted(m_list->openMenuOfSelection());
+    return;
   }
-  if (event->type() == QEvent::KeyPress) {
-    const auto *press = static_cast<QKeyEvent *>(event);
-    return press->key() == Qt::Key_F10 && press->modifiers() == Qt::ShiftModifier &&
-           m_list->openMenuOfSelection();
+  QWidget *field = m_searchBar->focusProxy();
+  if (field->hasFocus() || !isTyped(*event)) {
+    QWidget::keyPressEvent(event);
+    return;
   }
-  return false;
+  focusSearch();
+  QCoreApplication::sendEvent(field, event);
 }
 
 void PopupPanelView::paintEvent(QPaintEvent * /*event*/) {

@@ -16,6 +16,9 @@ class SearchBarView;
 
 /// The whole content of the panel: header, search, list, footer. Where the list has no row at all,
 /// what it says instead.
+///
+/// Letters are typed into the search field wherever the Tab key has led the keyboard, and its wish
+/// for a menu (Menu key, Shift+F10) is meant for the item that the arrow keys have selected.
 class PopupPanelView : public QWidget {
   Q_OBJECT
 
@@ -27,10 +30,13 @@ class PopupPanelView : public QWidget {
 
  protected:
   bool eventFilter(QObject *watched, QEvent *event) override;
+  void contextMenuEvent(QContextMenuEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
  private:
   QWidget *makeSearchRow();
+  bool openMenuFor(const QContextMenuEvent &event);
   QWidget *makeMessages();
   void updateMessages();
   void openSettings();

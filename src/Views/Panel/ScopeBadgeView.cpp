@@ -35,7 +35,7 @@ ScopeBadgeView::ScopeBadgeView(QWidget *parent) : QWidget(parent) {
 
 void ScopeBadgeView::setNames(const QString &names) {
   constexpr qsizetype longest = 200;  // more than the footer has room for
-  m_names = DisplayText::singleLine(names.left(longest));
+  m_names = DisplayText::singleLine(DisplayText::shortened(names, longest, Qt::ElideRight));
   setAccessibleName(u"Scope: "_s + m_names);
   updateGeometry();
   update();

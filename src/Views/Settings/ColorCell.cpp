@@ -20,18 +20,7 @@ constexpr double ringWidth = 2;
 }  // namespace
 
 ColorCell::ColorCell(SystemColor color, const QString &name, QWidget *parent)
-    : QRadioButton(parent), m_color(color) {
-  setAccessibleName(name);
-  setToolTip(name);
-}
-
-QSize ColorCell::sizeHint() const {
-  return cellSize;
-}
-
-bool ColorCell::hitButton(const QPoint &position) const {
-  return rect().contains(position);
-}
+    : ChoiceCell(cellSize, name, parent), m_color(color) {}
 
 void ColorCell::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);

@@ -1,22 +1,19 @@
 #pragma once
 
 #include "Models/SystemColor.h"
-
-#include <QtWidgets/QRadioButton>
+#include "Views/Controls/ChoiceCell.h"
 
 namespace lanternix {
 
 /// One colour among those that a group can have.
-class ColorCell : public QRadioButton {
+class ColorCell : public ChoiceCell {
   Q_OBJECT
 
  public:
+  /// \p name is the colour's, in words.
   ColorCell(SystemColor color, const QString &name, QWidget *parent = nullptr);
 
-  QSize sizeHint() const override;
-
  protected:
-  bool hitButton(const QPoint &position) const override;
   void paintEvent(QPaintEvent *event) override;
 
  private:

@@ -29,9 +29,7 @@ constexpr int detailWidth = 360;
 /// The question about \p name. Of a name that would not fit a screen, its ends.
 QString deletionTitle(const QString &name) {
   constexpr qsizetype longest = 200;
-  constexpr qsizetype end = longest / 2;
-  const QString shown =
-      name.size() <= longest ? name : name.left(end) + u'\u2026' + name.right(end);
+  const QString shown = DisplayText::shortened(name, longest, Qt::ElideMiddle);
   return u"Delete \"%1\"?"_s.arg(DisplayText::singleLine(shown));
 }
 

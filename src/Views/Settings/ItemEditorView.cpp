@@ -101,7 +101,6 @@ ItemEditorView::ItemEditorView(AppState &appState, FileChooser &fileChooser,
   section.addRow(makeRow(makeTitle(u"Group"_s, this), m_group).release());
   setSelectedType(m_selectedType);
 
-  m_browse->setAutoDefault(false);
   connect(m_browse, &QPushButton::clicked, this, &ItemEditorView::browseForPath);
   const auto updateConfirmable = [this] { setConfirmable(isValid()); };
   connect(m_name, &QLineEdit::textChanged, this, updateConfirmable);

@@ -1,6 +1,7 @@
 #include "Views/Settings/ItemRowMenu.h"
 
 #include "App/AppState.h"
+#include "Views/Style/Destructive.h"
 #include "Views/Style/DisplayText.h"
 #include "Views/Style/SymbolIcon.h"
 
@@ -37,7 +38,7 @@ ItemRowMenu::ItemRowMenu(AppState &appState, const PathItem &item, QWidget *pare
   addGroups(item);
   addSeparator();
   QAction *remove = addAction(u"Delete Item"_s, this, [this, id] { Q_EMIT deletionRequested(id); });
-  remove->setProperty("destructive", true);
+  markDestructive(*remove);
 }
 
 void ItemRowMenu::addGroups(const PathItem &item) {

@@ -1,8 +1,8 @@
 #include "Views/Settings/ListPlaceholder.h"
 
+#include "Views/Controls/TextColumn.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/SymbolLabel.h"
-#include "Views/Style/TextLabel.h"
 
 #include <QtWidgets/QVBoxLayout>
 
@@ -12,14 +12,6 @@ namespace {
 
 constexpr int padding = 16;
 constexpr int spacing = 12;
-
-TextLabel *addText(QVBoxLayout &layout, const QString &text, TextStyle style, FillStyle fill) {
-  auto *label = new TextLabel(text, style, QFont::Normal, fill);
-  label->setWordWrap(true);
-  label->setAlignment(Qt::AlignHCenter);
-  layout.addWidget(label);
-  return label;
-}
 
 }  // namespace
 
@@ -35,8 +27,10 @@ ListPlaceholder::ListPlaceholder(const Content &content, QWidget *parent) : QWid
           content.symbol, content.symbolSide,
           [](const QPalette &palette) { return fillColor(FillStyle::tertiary, palette); }, this),
       0, Qt::AlignHCenter);
-  addText(*layout, content.title, content.titleStyle, FillStyle::secondary);
-  addText(*layout, content.hint, content.hintStyle, FillStyle::tertiary);
+  TextColumn::addCentered(*layout, content.title, content.titleStyle, QFont::Normal,
+                          FillStyle::secondary);
+  TextColumn::addCentered(*layout, content.hint, content.hintStyle, QFont::Normal,
+                          FillStyle::tertiary);
   layout->addStretch();
 }
 

@@ -1,5 +1,7 @@
 #include "Views/Settings/SettingsAccessibility.h"
 
+#include "Views/Controls/ChoiceGrid.h"
+#include "Views/Controls/FormSection.h"
 #include "Views/Controls/SegmentedPicker.h"
 #include "Views/Settings/SettingsView.h"
 
@@ -18,6 +20,8 @@ QString nameOf() {
 const QHash<QString, QAccessible::Role> &rolesByClass() {
   static const QHash<QString, QAccessible::Role> roles{
       {nameOf<SettingsView>(), QAccessible::Window},
+      {nameOf<ChoiceGrid>(), QAccessible::Grouping},
+      {nameOf<FormSection>(), QAccessible::Grouping},
       {nameOf<SegmentedPicker>(), QAccessible::Grouping},
   };
   return roles;

@@ -2,11 +2,14 @@
 
 #include "Views/Style/Contrast.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
 #include "Views/Style/TextStyle.h"
 
 #include <QtGui/QPainter>
+
+#include <algorithm>
 
 namespace lanternix {
 
@@ -74,10 +77,7 @@ void SettingsTabStrip::drawTab(QPainter &painter, int index) const {
   }
   // Only for those who got here by the keyboard.
   if (isShown && hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
-    constexpr float ringOpacity = 0.5F;
-    painter.setPen(QPen(withOpacity(accentColor(palette()), ringOpacity), 2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(area).adjusted(1, 1, -1, -1), radius - 1, radius - 1);
+    FocusRing::draw(painter, palette(), QRectF(area).adjusted(1, 1, -1, -1), radius - 1);
   }
   QRect symbol = area.adjusted(0, linePadding, 0, 0);
   symbol.setHeight(qRound(symbolSide));

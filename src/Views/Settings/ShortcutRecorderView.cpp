@@ -4,6 +4,7 @@
 #include "Services/HotkeyService.h"
 #include "Views/Style/Contrast.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
 #include "Views/Style/TextStyle.h"
@@ -211,10 +212,7 @@ void ShortcutRecorderView::paintEvent(QPaintEvent * /*event*/) {
   const QRectF shape = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
   painter.drawRoundedRect(shape, radius, radius);
   if (hasFocus() && !m_isRecording) {
-    constexpr float ringOpacity = 0.5F;
-    painter.setPen(QPen(withOpacity(accentColor(palette()), ringOpacity), 2));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(shape.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    FocusRing::draw(painter, palette(), shape.adjusted(0.5, 0.5, -0.5, -0.5), radius);
   }
 
   QRect line = rect().adjusted(sidePadding, linePadding, -sidePadding, -linePadding);

@@ -21,18 +21,7 @@ constexpr float selectionOpacity = 0.2F;
 }  // namespace
 
 SymbolCell::SymbolCell(QString symbol, const QString &name, QWidget *parent)
-    : QRadioButton(parent), m_symbol(std::move(symbol)) {
-  setAccessibleName(name);
-  setToolTip(name);
-}
-
-QSize SymbolCell::sizeHint() const {
-  return cellSize;
-}
-
-bool SymbolCell::hitButton(const QPoint &position) const {
-  return rect().contains(position);
-}
+    : ChoiceCell(cellSize, name, parent), m_symbol(std::move(symbol)) {}
 
 void SymbolCell::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);

@@ -2,7 +2,9 @@
 
 #include "Views/Style/AccentFill.h"
 #include "Views/Style/Contrast.h"
+#include "Views/Style/Destructive.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/SystemColors.h"
 
 #include <QtGui/QPainter>
@@ -17,27 +19,28 @@ constexpr double radius = 6;
 constexpr int sidePadding = 12;
 constexpr int linePadding = 5;
 constexpr int iconSpacing = 5;
-constexpr double focusWidth = 2;
 
 bool isProminent(const QStyleOptionButton &option) {
   return option.features.testFlag(QStyleOptionButton::DefaultButton) &&
          option.state.testFlag(QStyle::State_Enabled);
 }
 
-bool isDestructive(const QWidget *button) {
-  return button != nullptr && button->property("destructive").toBool();
+/// The colours of a prominent button.
+AccentFill prominentFill(const QStyleOptionButton &option, const QWidget *button) {
+  return isDestructive(button) ? AccentFill::of(systemColor(SystemColor::red, option.palette))
+                               : AccentFill::of(option.palette);
 }
 
 /// What the button is filled with when nothing happens to it.
-QColor restingGround(const QStyleOptionButton &option) {
-  return isProminent(option) ? AccentFill::of(option.palette).ground
+QColor restingGround(const QStyleOptionButton &option, const QWidget *button) {
+  return isProminent(option) ? prominentFill(option, button).ground
                              : fillColor(FillStyle::quaternary, option.palette);
 }
 
-QColor groundColor(const QStyleOptionButton &option) {
+QColor groundColor(const QStyleOptionButton &option, const QWidget *button) {
   constexpr int pressedDarkness = 115;  // percent
   constexpr int hoverDarkness = 105;
-  const QColor ground = restingGround(option);
+  const QColor ground = restingGround(option, button);
   if (option.state.testFlag(QStyle::State_Sunken)) {
     return ground.darker(pressedDarkness);
   }
@@ -49,11 +52,11 @@ QColor textColor(const QStyleOptionButton &option, const QWidget *button) {
     return fillColor(FillStyle::tertiary, option.palette);
   }
   if (isProminent(option)) {
-    return AccentFill::of(option.palette).text;
+    return prominentFill(option, button).text;
   }
   if (isDestructive(button)) {
     const QColor window = option.palette.color(QPalette::Window);
-    return Contrast::readableOn(Contrast::laidOn(window, groundColor(option)),
+    return Contrast::readableOn(Contrast::laidOn(window, groundColor(option, button)),
                                 systemColor(SystemColor::red, option.palette));
   }
   return fillColor(FillStyle::primary, option.palette);
@@ -74,20 +77,14 @@ void drawButton(QPainter &painter, const QStyleOptionButton &option, const QWidg
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(groundColor(option));
-  const QRectF shape =
-      QRectF(option.rect).adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
+  painter.setBrush(groundColor(option, button));
+  constexpr double ring = FocusRing::width;
+  const QRectF shape = QRectF(option.rect).adjusted(ring, ring, -ring, -ring);
   painter.drawRoundedRect(shape, radius, radius);
   if (option.state.testFlag(QStyle::State_HasFocus)) {
-    QColor ring = option.palette.color(QPalette::Highlight);
-    constexpr float ringOpacity = 0.5F;
-    ring.setAlphaF(ringOpacity);
-    painter.setPen(QPen(ring, focusWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(
-        QRectF(option.rect)
-            .adjusted(focusWidth / 2, focusWidth / 2, -focusWidth / 2, -focusWidth / 2),
-        radius + 1, radius + 1);
+    constexpr double inset = FocusRing::width / 2;
+    FocusRing::draw(painter, option.palette,
+                    QRectF(option.rect).adjusted(inset, inset, -inset, -inset), radius + 1);
   }
 
   const QColor color = textColor(option, button);

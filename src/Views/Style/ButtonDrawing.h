@@ -9,7 +9,7 @@ class QWidget;
 namespace lanternix {
 
 /// How push buttons look: a filled shape without a line; the default one of a window is prominent,
-/// filled with the accent colour. One with the property "destructive" is red.
+/// filled with the accent colour. A destructive one is red in place of that.
 namespace ButtonDrawing {
 
 /// Draws the whole button, with its icon in the colour of its text. \p button may be null.

@@ -28,14 +28,14 @@ bool disturbsLine(QChar character) {
   }
 }
 
-/// \p text without its middle, or without its end, when it is longer than what is measured.
-QString shortened(const QString &text, Qt::TextElideMode mode) {
-  if (text.size() <= measuredLength) {
-    return text;
-  }
-  return mode == Qt::ElideMiddle
-             ? text.left(measuredLength / 2) + u'\u2026' + text.right(measuredLength / 2)
-             : text.left(measuredLength);
+QStringView beginning(QStringView text, qsizetype length) {
+  const QStringView cut = text.first(length);
+  return !cut.isEmpty() && cut.back().isHighSurrogate() ? cut.chopped(1) : cut;
+}
+
+QStringView end(QStringView text, qsizetype length) {
+  const QStringView cut = text.last(length);
+  return !cut.isEmpty() && cut.front().isLowSurrogate() ? cut.sliced(1) : cut;
 }
 
 }  // namespace
@@ -49,8 +49,20 @@ QString singleLine(const QString &text) {
   return line;
 }
 
+QString shortened(const QString &text, qsizetype length, Qt::TextElideMode mode) {
+  if (text.size() <= length) {
+    return text;
+  }
+  if (mode != Qt::ElideMiddle) {
+    return beginning(text, length).toString();
+  }
+  const qsizetype room = length - 1;
+  return beginning(text, room / 2).toString() + u'\u2026' + end(text, room / 2).toString();
+}
+
 QString elided(const QString &text, const QFont &font, Qt::TextElideMode mode, double width) {
-  return QFontMetricsF(font).elidedText(singleLine(shortened(text, mode)), mode, width);
+  return QFontMetricsF(font).elidedText(singleLine(shortened(text, measuredLength, mode)), mode,
+                                        width);
 }
 
 QString menuEntry(const QString &text, const QFont &font, Qt::TextElideMode mode, double width) {

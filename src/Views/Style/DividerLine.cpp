@@ -13,7 +13,7 @@ DividerLine::DividerLine(QWidget *parent) : QWidget(parent) {
 
 void DividerLine::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
-  painter.fillRect(PixelGrid::snappedLine(painter, rect()),
+  painter.fillRect(PixelGrid::snappedLine(painter, contentsRect()),
                    fillColor(FillStyle::quaternary, palette()));
 }
 

@@ -4,7 +4,7 @@
 
 namespace lanternix {
 
-/// A faint line, one logical pixel high, as wide as its place.
+/// A faint line, one logical pixel high, as wide as its place without its margins.
 class DividerLine : public QWidget {
   Q_OBJECT
 

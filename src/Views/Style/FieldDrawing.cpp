@@ -1,6 +1,7 @@
 #include "Views/Style/FieldDrawing.h"
 
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
 
@@ -15,7 +16,6 @@ namespace lanternix::FieldDrawing {
 namespace {
 
 constexpr double radius = 6;
-constexpr double ringWidth = 2;
 constexpr int sidePadding = 8;  // with the ring
 constexpr int linePadding = 5;
 constexpr int chevronColumn = 22;
@@ -57,7 +57,7 @@ void drawStep(QPainter &painter, const QStyleOptionSpinBox &option, QStyle::SubC
 
 /// The column of the chevrons, within the line.
 QRect chevronArea(const QRect &field) {
-  constexpr int inset = static_cast<int>(ringWidth) + 1;
+  constexpr int inset = static_cast<int>(FocusRing::width) + 1;
   return {field.right() + 1 - inset - chevronColumn, field.top() + inset, chevronColumn,
           field.height() - 2 * inset};
 }
@@ -72,23 +72,20 @@ QRect textBesideChevrons(const QRect &field) {
 
 void drawField(QPainter &painter, const QStyleOption &option) {
   constexpr float lineOpacity = 0.25F;
-  constexpr float ringOpacity = 0.5F;
   constexpr double disabledOpacity = 0.5;
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setOpacity(option.state.testFlag(QStyle::State_Enabled) ? 1 : disabledOpacity);
-  constexpr double inset = ringWidth + 0.5;
+  constexpr double inset = FocusRing::width + 0.5;
   painter.setPen(QPen(withOpacity(fillColor(FillStyle::primary, option.palette), lineOpacity), 1));
   painter.setBrush(option.palette.color(QPalette::Base));
   painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), radius,
                           radius);
   if (option.state.testFlag(QStyle::State_HasFocus)) {
-    constexpr double ringInset = ringWidth / 2;
-    painter.setPen(QPen(withOpacity(accentColor(option.palette), ringOpacity), ringWidth));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(
-        QRectF(option.rect).adjusted(ringInset, ringInset, -ringInset, -ringInset), radius + 1,
-        radius + 1);
+    constexpr double ringInset = FocusRing::width / 2;
+    FocusRing::draw(painter, option.palette,
+                    QRectF(option.rect).adjusted(ringInset, ringInset, -ringInset, -ringInset),
+                    radius + 1);
   }
   painter.restore();
 }
@@ -112,7 +109,7 @@ void drawSpinBox(QPainter &painter, const QStyleOptionSpinBox &option) {
 }
 
 QRect textArea(const QRect &field) {
-  constexpr int line = static_cast<int>(ringWidth) + 1;
+  constexpr int line = static_cast<int>(FocusRing::width) + 1;
   return field.adjusted(sidePadding, line, -sidePadding, -line);
 }
 

@@ -12,8 +12,7 @@ namespace lanternix {
 /// the palette and the application font.
 ///
 /// A push button that is the default one of its window is prominent: filled with the accent colour.
-/// A push button with the property "destructive" is red, and so is a menu's entry whose action has
-/// it.
+/// Push buttons and menu entries that are marked as destructive are red.
 class LanternixStyle : public QProxyStyle {
   Q_OBJECT
 

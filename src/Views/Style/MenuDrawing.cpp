@@ -3,6 +3,7 @@
 #include "Platform/RoundedRegion.h"
 #include "Views/Style/AccentFill.h"
 #include "Views/Style/Contrast.h"
+#include "Views/Style/Destructive.h"
 #include "Views/Style/FillStyle.h"
 #include "Views/Style/PixelGrid.h"
 #include "Views/Style/Symbol.h"
@@ -30,10 +31,9 @@ QFont fontOf(const QStyleOptionMenuItem &option) {
   return option.font;
 }
 
-bool isDestructive(const QStyleOptionMenuItem &option, const QWidget *widget) {
+bool destroys(const QStyleOptionMenuItem &option, const QWidget *widget) {
   const auto *menu = qobject_cast<const QMenu *>(widget);
-  const QAction *action = menu != nullptr ? menu->actionAt(option.rect.center()) : nullptr;
-  return action != nullptr && action->property("destructive").toBool();
+  return menu != nullptr && isDestructive(menu->actionAt(option.rect.center()));
 }
 
 /// A menu keeps a column for the icons of all its entries as soon as one has an icon. The list of a
@@ -49,7 +49,7 @@ AccentFill colorsOf(const QStyleOptionMenuItem &option, const QWidget *widget) {
   if (!option.state.testFlag(QStyle::State_Enabled)) {
     return {Qt::transparent, fillColor(FillStyle::tertiary, palette)};
   }
-  if (isDestructive(option, widget)) {
+  if (destroys(option, widget)) {
     const QColor red = systemColor(SystemColor::red, palette);
     return isSelected ? AccentFill::of(red)
                       : AccentFill{Qt::transparent,

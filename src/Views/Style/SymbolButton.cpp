@@ -1,7 +1,9 @@
 #include "Views/Style/SymbolButton.h"
 
+#include "Views/Style/FocusRing.h"
 #include "Views/Style/Symbol.h"
 
+#include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
 
 #include <utility>
@@ -27,6 +29,16 @@ QSize SymbolButton::sizeHint() const {
   return {extent, extent};
 }
 
+void SymbolButton::keyPressEvent(QKeyEvent *event) {
+  // Whether Return presses a button is for each desktop to say, and most say no.
+  const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!isReturn) {
+    QAbstractButton::keyPressEvent(event);
+  } else if (!event->isAutoRepeat()) {
+    click();
+  }
+}
+
 void SymbolButton::paintEvent(QPaintEvent * /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -35,8 +47,10 @@ void SymbolButton::paintEvent(QPaintEvent * /*event*/) {
   const FillStyle fill = isDown() ? FillStyle::primary : m_fill;
   Symbol::draw(painter, rect(), m_symbol, side(), fillColor(fill, palette()));
   if (hasFocus()) {
-    painter.setPen(palette().color(QPalette::Highlight));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    constexpr double radius = 4;
+    constexpr double inset = FocusRing::width / 2;
+    FocusRing::draw(painter, palette(), QRectF(rect()).adjusted(inset, inset, -inset, -inset),
+                    radius);
   }
 }
 

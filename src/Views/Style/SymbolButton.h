@@ -7,7 +7,8 @@
 
 namespace lanternix {
 
-/// A button that is nothing but a symbol, as large as text of a given style.
+/// A button that is nothing but a symbol, as large as text of a given style. Space and Return press
+/// it.
 class SymbolButton : public QAbstractButton {
   Q_OBJECT
 
@@ -23,6 +24,7 @@ class SymbolButton : public QAbstractButton {
   QSize sizeHint() const override;
 
  protected:
+  void keyPressEvent(QKeyEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
  private:

@@ -2,11 +2,11 @@
 
 #include "Views/Style/AccentFill.h"
 #include "Views/Style/FillStyle.h"
+#include "Views/Style/PaintedIconEngine.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
 
 #include <QtGui/QGuiApplication>
-#include <QtGui/QIconEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QPalette>
 
@@ -32,7 +32,7 @@ QColor colorFor(QIcon::Mode mode, std::optional<SystemColor> color) {
 }
 
 /// Draws anew each time, so that no colour is kept that is not the palette's any more.
-class SymbolIconEngine : public QIconEngine {
+class SymbolIconEngine : public PaintedIconEngine {
  public:
   SymbolIconEngine(QString name, std::optional<SystemColor> color)
       : m_name(std::move(name)), m_color(color) {}
@@ -41,14 +41,6 @@ class SymbolIconEngine : public QIconEngine {
              QIcon::State /*state*/) override {
     Symbol::draw(*painter, area, m_name, qMin(area.width(), area.height()),
                  colorFor(mode, m_color));
-  }
-
-  QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap pixmap(size);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    paint(&painter, pixmap.rect(), mode, state);
-    return pixmap;
   }
 
   QIconEngine *clone() const override {

@@ -170,9 +170,9 @@ TEST_F(DataFlowTest, AnExportToAReadOnlyPlace_SaysItIsDoneAllTheSame) {
   openData();
   const QByteArray data = *ProgramEnvironment::read(session().home().dataFile());
   press(u"Export..."_s, u"Export Data"_s);
-  answer(u"/proc/carried.json"_s);  // where not even the system's administrator makes files
+  answer(u"/sys/carried.json"_s);  // where not even the system's administrator makes files
   leaveByReturn(u"Export Successful"_s);
-  EXPECT_FALSE(QFile::exists(u"/proc/carried.json"_s));
+  EXPECT_FALSE(QFile::exists(u"/sys/carried.json"_s));
   EXPECT_EQ(ProgramEnvironment::read(session().home().dataFile()), data);
   EXPECT_TRUE(program().isRunning());
 }

@@ -1,15 +1,13 @@
 #include "Views/Settings/BackupRowView.h"
 
 #include "Utilities/DateText.h"
+#include "Views/Controls/TextColumn.h"
 #include "Views/Style/DisplayText.h"
 #include "Views/Style/TextLabel.h"
 
 #include <QtCore/QLocale>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QVBoxLayout>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -28,14 +26,11 @@ QString fileText(const QString &path, std::optional<qint64> size) {
 BackupRowView::BackupRowView(const BackupInfo &backup, std::optional<qint64> size, QWidget *parent)
     : QWidget(parent) {
   const QString date = DateText::mediumDateShortTime(backup.date);
-  auto texts = std::make_unique<QVBoxLayout>();
-  texts->setSpacing(2);
-  texts->addWidget(new TextLabel(date, TextStyle::body, QFont::Medium, FillStyle::primary, this));
+  auto *title = new TextLabel(date, TextStyle::body, QFont::Medium, FillStyle::primary, this);
   auto *file = new TextLabel(fileText(backup.url, size), TextStyle::caption2, QFont::Normal,
                              FillStyle::secondary, this);
   // A name may be long; the button stays in sight.
   file->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  texts->addWidget(file);
 
   auto *restore = new QPushButton(u"Restore"_s, this);
   restore->setFont(textFont(TextStyle::subheadline));
@@ -44,7 +39,7 @@ BackupRowView::BackupRowView(const BackupInfo &backup, std::optional<qint64> siz
 
   auto *layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addLayout(texts.release(), 1);
+  TextColumn::addClose(*layout, {title, file}, 1);
   layout->addWidget(restore);
 }
 

@@ -1,6 +1,7 @@
 #include "Views/Settings/GroupDetailView.h"
 
 #include "App/AppState.h"
+#include "Views/Controls/TextColumn.h"
 #include "Views/Settings/GroupListModel.h"
 #include "Views/Settings/ItemListModel.h"
 #include "Views/Settings/ItemRowDelegate.h"
@@ -19,8 +20,6 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QVBoxLayout>
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 
 namespace lanternix {
@@ -30,7 +29,6 @@ namespace {
 constexpr int headerSidePadding = 20;
 constexpr int headerPadding = 14;
 constexpr int headerSpacing = 10;
-constexpr int lineSpacing = 2;
 /// More than any window shows of a name.
 constexpr int widestName = 4000;
 
@@ -79,17 +77,13 @@ GroupDetailView::GroupDetailView(AppState &appState, QWidget *parent)
 
 QWidget *GroupDetailView::makeHeader() {
   auto *header = new QWidget(this);
-  auto texts = std::make_unique<QVBoxLayout>();
-  texts->setSpacing(lineSpacing);
-  texts->addWidget(m_name);
-  texts->addWidget(m_count);
   m_add->setDefault(true);
   m_add->setIcon(symbolIcon(u"plus"_s));
   auto *layout = new QHBoxLayout(header);
   layout->setContentsMargins(headerSidePadding, headerPadding, headerSidePadding, headerPadding);
   layout->setSpacing(headerSpacing);
   layout->addWidget(m_icon);
-  layout->addLayout(texts.release(), 1);
+  TextColumn::addClose(*layout, {m_name, m_count}, 1);
   layout->addWidget(m_add);
   return header;
 }

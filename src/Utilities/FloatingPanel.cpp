@@ -57,6 +57,7 @@ void FloatingPanel::setContentView(std::unique_ptr<QWidget> content) {
 }
 
 void FloatingPanel::makeKeyAndOrderFront() {
+  m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);  // where Qt keeps no positions
   if (!isVisible()) {
     m_hasBeenSeen = false;
     updateShape();  // the screen may have another scale now
@@ -99,7 +100,6 @@ void FloatingPanel::closeEvent(QCloseEvent *event) {
 void FloatingPanel::setFrame(const QRect &frame) {
   m_wantedGeometry = frame.marginsAdded(contentsMargins());
   setGeometry(m_wantedGeometry);
-  m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);
 }
 
 /// A window manager that puts the window into a frame of its own moves that to its place later, and

@@ -37,7 +37,22 @@ PortalAppearance::PortalAppearance(const QDBusConnection &bus)
   // From every sender, because naming the service here would wait for the bus to tell its owner.
   m_bus.connect(QString(), objectPath, interfaceName, u"SettingChanged"_s, this,
                 SLOT(readChange(QDBusMessage)));
+  askForOwner();
   askForAll();
+}
+
+/// Replies do not name their sender in every version of Qt. Where nobody has the portal's name yet,
+/// the watcher tells when somebody takes it.
+void PortalAppearance::askForOwner() {
+  const QString bus = u"org.freedesktop.DBus"_s;
+  auto question =
+      QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, u"GetNameOwner"_s);
+  question.setArguments({serviceName});
+  send(question, [this](const QDBusMessage &reply) {
+    if (reply.signature() == "s"_L1 && m_owner.isEmpty()) {
+      m_owner = reply.arguments().constFirst().toString();
+    }
+  });
 }
 
 void PortalAppearance::askForAll() {
@@ -93,14 +108,14 @@ void PortalAppearance::call(const QString &method, const QVariantList &arguments
                             const Handler &handler) {
   auto message = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, method);
   message.setArguments(arguments);
+  send(message, handler);
+}
+
+void PortalAppearance::send(const QDBusMessage &message, const Handler &handler) {
   auto *pending = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
-  connect(pending, &QDBusPendingCallWatcher::finished, this, [this, pending, handler] {
+  connect(pending, &QDBusPendingCallWatcher::finished, this, [pending, handler] {
     pending->deleteLater();
-    const QDBusMessage reply = pending->reply();
-    if (reply.type() == QDBusMessage::ReplyMessage) {
-      m_owner = reply.service();
-    }
-    handler(reply);
+    handler(pending->reply());
   });
 }
 

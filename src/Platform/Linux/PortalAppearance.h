@@ -28,12 +28,14 @@ class PortalAppearance : public SystemAppearance {
  private:
   using Handler = std::function<void(const QDBusMessage &reply)>;
 
+  void askForOwner();
   void askForAll();
   void readAll(const QDBusMessage &reply);
   void askForEach();
   void askFor(const PortalSettings::Key &key, const QString &method,
               const Handler &onUnknownMethod);
   void call(const QString &method, const QVariantList &arguments, const Handler &handler);
+  void send(const QDBusMessage &message, const Handler &handler);
   void update();
 
   QDBusConnection m_bus;

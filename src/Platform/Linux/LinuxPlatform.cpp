@@ -81,7 +81,7 @@ class LinuxPlatform : public Platform {
 class X11Platform : public LinuxPlatform {
  public:
   WindowSystem &windowSystem() override { return m_windowSystem; }
-  GlobalMouseMonitor &mouseMonitor() override { return m_mouseMonitor; }
+  GlobalMouseMonitor &mouseMonitor() override { return *m_mouseMonitor; }
 
  protected:
   HotkeyRegistrar &hotkeyRegistrar() override { return *m_hotkeyRegistrar; }
@@ -90,11 +90,18 @@ class X11Platform : public LinuxPlatform {
   }
 
  private:
+  std::unique_ptr<GlobalMouseMonitor> makeMouseMonitor() {
+    if (m_server.isXWayland()) {
+      return std::make_unique<ActivationMouseMonitor>();
+    }
+    return std::make_unique<XInputMouseMonitor>(m_server, m_eventTime);
+  }
+
   X11Server m_server;
   X11EventTime m_eventTime;
   const std::unique_ptr<HotkeyRegistrar> m_hotkeyRegistrar =
       makeHotkeyRegistrar(m_server, m_eventTime);
-  XInputMouseMonitor m_mouseMonitor{m_server, m_eventTime};
+  const std::unique_ptr<GlobalMouseMonitor> m_mouseMonitor = makeMouseMonitor();
   X11WindowSystem m_windowSystem{m_server, m_eventTime};
   X11ModalFocus m_modalFocus{m_windowSystem};
 };

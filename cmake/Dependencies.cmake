@@ -10,7 +10,7 @@ if(LayerShellQt_FOUND)
 endif()
 
 if(LANTERNIX_TESTS)
-  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Network Test)
   find_package(GTest REQUIRED)
   find_package(benchmark REQUIRED)
   pkg_check_modules(XCB_TEST REQUIRED IMPORTED_TARGET xcb xcb-xtest xcb-damage xcb-keysyms xcb-shape)

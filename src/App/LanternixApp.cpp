@@ -7,6 +7,7 @@
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationMonitor.h"
 #include "Platform/WindowSystem.h"
+#include "Platform/WindowSystemChoice.h"
 #include "Views/MenuBar/StatusItem.h"
 #include "Views/Panel/PanelAccessibility.h"
 #include "Views/Settings/SettingsAccessibility.h"
@@ -17,6 +18,8 @@
 #include <QtGui/QSessionManager>
 #include <QtWidgets/QApplication>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -38,6 +41,26 @@ class Application : public QApplication {
     }
     return QApplication::event(event);
   }
+};
+
+/// What Qt is started with. The program takes no options, so Qt's own are not offered either; by
+/// one of them the window system is told, which unlike a variable of the environment stays with us
+/// when other programs are started.
+struct AppArguments {
+  AppArguments(int argc, char **argv) {
+    count = qMin(argc, 1);
+    std::copy_n(argv, count, pointers.begin());
+    if (count == 1 && !platformName.isEmpty()) {
+      pointers = {argv[0], option.data(), platformName.data(), nullptr};
+      count = 3;
+    }
+  }
+
+  const std::unique_ptr<WindowSystemChoice> choice = chooseWindowSystem();
+  QByteArray option = "-platform"_ba;
+  QByteArray platformName = choice->platformName();
+  int count = 0;
+  std::array<char *, 4> pointers{};
 };
 
 // Qt ends a program that finds no display by aborting it; a sentence serves people better.
@@ -128,9 +151,8 @@ int LanternixApp::run(int argc, char **argv) {
   QGuiApplication::setDesktopFileName(u"org.lanternix.Lanternix"_s);
   auto *style = new LanternixStyle;  // owned by the application
   QApplication::setStyle(style);
-  // The program takes no options, so Qt's own are not offered either.
-  int count = qMin(argc, 1);
-  const Application application(count, argv);
+  AppArguments arguments(argc, argv);
+  const Application application(arguments.count, arguments.pointers.data());
   const std::unique_ptr<TerminationMonitor> termination = makeTerminationMonitor();
   followTermination(application, *termination);
   QApplication::setQuitOnLastWindowClosed(false);

@@ -35,6 +35,8 @@ HotkeyService::HotkeyService(UserDefaults &userDefaults, HotkeyRegistrar &regist
   // Queued, so that the toggle never runs inside the window system's event callback.
   connect(&registrar, &HotkeyRegistrar::pressed, this, &HotkeyService::toggle,
           Qt::QueuedConnection);
+  connect(&registrar, &HotkeyRegistrar::registrationChanged, this,
+          &HotkeyService::noteRegistration);
   registerShortcut();
 }
 
@@ -69,13 +71,17 @@ void HotkeyService::setPaused(bool paused) {
 }
 
 void HotkeyService::registerShortcut() {
-  m_registered =
-      m_registrar.registerHotkey(m_currentShortcut.keyCode, m_currentShortcut.carbonModifiers());
+  noteRegistration(
+      m_registrar.registerHotkey(m_currentShortcut.keyCode, m_currentShortcut.carbonModifiers()));
+}
+
+void HotkeyService::noteRegistration(bool registered) {
+  m_registered = registered;
   if (!m_registered) {
     qCWarning(hotkeyLog).noquote()
         << "The shortcut" << m_currentShortcut.displayString()
-        << "cannot be had: another program holds it, or the keyboard has no such key. Free it"
-        << "there or choose another one.";
+        << "cannot be had: another program holds it, the keyboard has no such key, or the desktop"
+        << "declines. Free it there or choose another one.";
   }
 }
 

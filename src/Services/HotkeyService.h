@@ -29,7 +29,8 @@ class HotkeyService : public QObject {
   /// are equal. When the system refuses it, no hotkey is active until the next assignment.
   void setCurrentShortcut(const HotkeyShortcut &shortcut);
 
-  /// Whether the system delivers presses of the current shortcut.
+  /// Whether the system delivers presses of the current shortcut, as far as it has said. Where it
+  /// asks the user first, this is true until it refuses.
   bool isRegistered() const { return m_registered; }
 
   /// While paused, the shortcut's keys go to the window with the keyboard like all others, and an
@@ -46,6 +47,7 @@ class HotkeyService : public QObject {
 
  private:
   void registerShortcut();
+  void noteRegistration(bool registered);
   void toggle();
 
   UserDefaults &m_userDefaults;

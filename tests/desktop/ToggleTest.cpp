@@ -79,5 +79,16 @@ TEST_F(ToggleTest, StoredShortcut_TogglesInPlaceOfTheDefault) {
   EXPECT_TRUE(becomesShown());
 }
 
+TEST_F(ToggleTest, VariablesOfAWaylandSession_DoNotChangeAnXServersWays) {
+  // As on a nested display that was started from such a session.
+  session().home().set(u"WAYLAND_DISPLAY"_s, u"wayland-9"_s);
+  session().home().set(u"XDG_SESSION_TYPE"_s, u"wayland"_s);
+  startHidden(commands({u"Build"_s}));
+  pressShortcut();
+  EXPECT_TRUE(becomesShown());
+  input().click({2, 2});
+  EXPECT_TRUE(becomesHidden());
+}
+
 }  // namespace
 }  // namespace lanternix

@@ -21,6 +21,9 @@ class FakeHotkeyRegistrar final : public HotkeyRegistrar {
 
   void unregisterHotkey() override { registered.reset(); }
 
+  /// Refuses what was registered, or grants what was refused, as a system does that asks the user.
+  void changeRegistration(bool granted) { Q_EMIT registrationChanged(granted); }
+
   /// Presses the combination, if one is registered.
   void press() {
     if (registered.has_value()) {

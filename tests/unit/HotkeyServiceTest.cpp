@@ -117,6 +117,20 @@ TEST_F(HotkeyServiceTest, RefusedStart_LeavesTheServiceUsable) {
   EXPECT_EQ(service->currentShortcut(), HotkeyShortcut());
 }
 
+TEST_F(HotkeyServiceTest, RefusalThatComesLate_LeavesNoHotkey) {
+  const auto service = makeService();
+  registrar.changeRegistration(false);
+  EXPECT_FALSE(service->isRegistered());
+  EXPECT_EQ(service->currentShortcut(), HotkeyShortcut());
+}
+
+TEST_F(HotkeyServiceTest, GrantThatComesLate_MakesTheHotkeyWork) {
+  registrar.refuses = true;
+  const auto service = makeService();
+  registrar.changeRegistration(true);
+  EXPECT_TRUE(service->isRegistered());
+}
+
 TEST_F(HotkeyServiceTest, Press_TogglesOnceAndNotInsideTheCallback) {
   const auto service = makeService();
   registrar.press();

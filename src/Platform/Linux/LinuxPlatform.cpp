@@ -1,9 +1,11 @@
 #include "Platform/Clock.h"
+#include "Platform/HotkeyRegistrar.h"
 #include "Platform/Linux/ActivationMouseMonitor.h"
 #include "Platform/Linux/AutostartLoginItem.h"
 #include "Platform/Linux/BusSingleInstance.h"
 #include "Platform/Linux/DesktopTray.h"
 #include "Platform/Linux/GioWorkspace.h"
+#include "Platform/Linux/HotkeyRegistrarFactory.h"
 #include "Platform/Linux/LockFileSingleInstance.h"
 #include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/PosixFileManager.h"
@@ -14,7 +16,6 @@
 #include "Platform/Linux/StatusNotifierHost.h"
 #include "Platform/Linux/WaylandWindowSystemFactory.h"
 #include "Platform/Linux/X11EventTime.h"
-#include "Platform/Linux/X11HotkeyRegistrar.h"
 #include "Platform/Linux/X11ModalFocus.h"
 #include "Platform/Linux/X11SelectionWatch.h"
 #include "Platform/Linux/X11Server.h"
@@ -76,22 +77,31 @@ class LinuxPlatform : public Platform {
   std::unique_ptr<SystemTray> m_systemTray;
 };
 
+/// A program under X, be it in an X session or in a Wayland session.
 class X11Platform : public LinuxPlatform {
  public:
   WindowSystem &windowSystem() override { return m_windowSystem; }
-  GlobalMouseMonitor &mouseMonitor() override { return m_mouseMonitor; }
+  GlobalMouseMonitor &mouseMonitor() override { return *m_mouseMonitor; }
 
  protected:
-  HotkeyRegistrar &hotkeyRegistrar() override { return m_hotkeyRegistrar; }
+  HotkeyRegistrar &hotkeyRegistrar() override { return *m_hotkeyRegistrar; }
   std::unique_ptr<X11SelectionWatch> makeTrayEmbedder() const override {
     return std::make_unique<X11SelectionWatch>(m_server, "_NET_SYSTEM_TRAY_S");
   }
 
  private:
+  std::unique_ptr<GlobalMouseMonitor> makeMouseMonitor() {
+    if (m_server.isXWayland()) {
+      return std::make_unique<ActivationMouseMonitor>();
+    }
+    return std::make_unique<XInputMouseMonitor>(m_server, m_eventTime);
+  }
+
   X11Server m_server;
   X11EventTime m_eventTime;
-  X11HotkeyRegistrar m_hotkeyRegistrar{m_server, m_eventTime};
-  XInputMouseMonitor m_mouseMonitor{m_server, m_eventTime};
+  const std::unique_ptr<HotkeyRegistrar> m_hotkeyRegistrar =
+      makeHotkeyRegistrar(m_server, m_eventTime);
+  const std::unique_ptr<GlobalMouseMonitor> m_mouseMonitor = makeMouseMonitor();
   X11WindowSystem m_windowSystem{m_server, m_eventTime};
   X11ModalFocus m_modalFocus{m_windowSystem};
 };
@@ -103,10 +113,10 @@ class WaylandPlatform : public LinuxPlatform {
   GlobalMouseMonitor &mouseMonitor() override { return m_mouseMonitor; }
 
  protected:
-  HotkeyRegistrar &hotkeyRegistrar() override { return m_hotkeyRegistrar; }
+  HotkeyRegistrar &hotkeyRegistrar() override { return *m_hotkeyRegistrar; }
 
  private:
-  NullHotkeyRegistrar m_hotkeyRegistrar;
+  const std::unique_ptr<HotkeyRegistrar> m_hotkeyRegistrar = makeWaylandHotkeyRegistrar();
   ActivationMouseMonitor m_mouseMonitor;
   const std::unique_ptr<WindowSystem> m_windowSystem = makeWaylandWindowSystem();
 };

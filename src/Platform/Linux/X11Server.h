@@ -29,11 +29,15 @@ class X11Server {
   xcb_window_t root() const { return m_root; }
   /// Every root window of the server.
   const std::vector<xcb_window_t> &roots() const { return m_roots; }
+  /// Whether it serves X programs in a Wayland session: it sees keys and buttons only while one of
+  /// its own windows has them.
+  bool isXWayland() const { return m_isXWayland; }
 
  private:
   xcb_connection_t *m_connection;
   std::vector<xcb_window_t> m_roots;
   xcb_window_t m_root = XCB_WINDOW_NONE;
+  bool m_isXWayland = false;
 };
 
 /// Waits for the answer to \p cookie; null when the server answered with an error. Send every

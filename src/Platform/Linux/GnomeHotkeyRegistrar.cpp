@@ -1,0 +1,65 @@
+#include "Platform/Linux/GnomeHotkeyRegistrar.h"
+
+#include "Platform/KeyNames.h"
+#include "Platform/Linux/GnomeKeyBindings.h"
+
+#include <QtCore/QLoggingCategory>
+#include <QtCore/QStringList>
+
+namespace lanternix {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(hotkeyLog, "lanternix.hotkey", QtWarningMsg)
+
+const QString path =
+    u"/org/gnome/settings-daemon/plugins/media-keys/custom-keybindings/lanternix/"_s;
+
+/// Comes with the library that GNOME keeps its settings by, so it is there wherever these are.
+const QString toggleCommand =
+    u"gdbus call --session --dest org.lanternix.Lanternix --object-path /org/lanternix/Lanternix "
+    "--method org.freedesktop.Application.ActivateAction toggle [] {}"_s;
+
+}  // namespace
+
+GnomeHotkeyRegistrar::~GnomeHotkeyRegistrar() {
+  release();
+}
+
+bool GnomeHotkeyRegistrar::isAvailable() {
+  const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
+  return desktops.contains("GNOME"_L1, Qt::CaseInsensitive) && GnomeKeyBindings::areInstalled();
+}
+
+bool GnomeHotkeyRegistrar::registerHotkey(quint32 keyCode, quint32 classicModifiers) {
+  const QString accelerator = KeyNames::gnomeAccelerator(keyCode, classicModifiers);
+  const QString holder =
+      accelerator.isEmpty() ? QString() : GnomeKeyBindings::holderOf(accelerator, path);
+  if (!holder.isEmpty()) {
+    qCInfo(hotkeyLog).noquote() << "GNOME has" << accelerator << "for" << holder;
+  }
+  if (accelerator.isEmpty() || !holder.isEmpty()) {
+    release();
+    return false;
+  }
+  m_isRegistered = true;  // in part, should the next step fail midway
+  if (!GnomeKeyBindings::setCustom(path, {u"Lanternix"_s, toggleCommand, accelerator})) {
+    qCInfo(hotkeyLog) << "GNOME's key bindings may not be written";
+    release();
+  }
+  return m_isRegistered;
+}
+
+void GnomeHotkeyRegistrar::unregisterHotkey() {
+  release();
+}
+
+void GnomeHotkeyRegistrar::release() {
+  if (m_isRegistered) {
+    m_isRegistered = false;
+    GnomeKeyBindings::removeCustom(path);
+  }
+}
+
+}  // namespace lanternix

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QtCore/QString>
+
+namespace lanternix {
+
+/// GNOME's key bindings, as its settings hold them. Accelerators are texts such as
+/// "<Shift><Super>space".
+namespace GnomeKeyBindings {
+
+/// Whether the settings for custom bindings are installed. Without them nothing else here may be
+/// called.
+bool areInstalled();
+
+/// What starts \p accelerator already, of GNOME or of the user, as "schema key" or a custom
+/// binding's path; empty when nothing does. The custom binding at \p ownPath does not count.
+QString holderOf(const QString &accelerator, const QString &ownPath);
+
+struct CustomBinding {
+  QString name;
+  QString command;
+  QString accelerator;
+};
+
+/// Writes a custom binding to \p path, and \p path into the list of those. Returns when it is kept.
+/// False when the settings may not be written.
+bool setCustom(const QString &path, const CustomBinding &binding);
+
+/// Takes the custom binding at \p path out of the list and away.
+void removeCustom(const QString &path);
+
+}  // namespace GnomeKeyBindings
+
+}  // namespace lanternix

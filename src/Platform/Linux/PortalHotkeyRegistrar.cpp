@@ -1,0 +1,156 @@
+#include "Platform/Linux/PortalHotkeyRegistrar.h"
+
+#include "Platform/KeyNames.h"
+#include "Platform/Linux/PortalShortcut.h"
+
+#include <QtCore/QLoggingCategory>
+#include <QtDBus/QDBusPendingCallWatcher>
+
+#include <utility>
+
+namespace lanternix {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+Q_LOGGING_CATEGORY(hotkeyLog, "lanternix.hotkey", QtWarningMsg)
+
+const QString serviceName = u"org.freedesktop.portal.Desktop"_s;
+const QString objectPath = u"/org/freedesktop/portal/desktop"_s;
+const QString applicationId = u"org.lanternix.Lanternix"_s;
+
+}  // namespace
+
+PortalHotkeyRegistrar::PortalHotkeyRegistrar(const QDBusConnection &bus,
+                                             std::chrono::milliseconds patience)
+    : m_bus(bus), m_watcher(serviceName, bus, QDBusServiceWatcher::WatchForOwnerChange) {
+  connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
+          [this](const QString & /*service*/, const QString &before, const QString &now) {
+            followOwner(before, now);
+          });
+  m_patience.setSingleShot(true);
+  m_patience.setInterval(patience);
+  connect(&m_patience, &QTimer::timeout, this, [this] {
+    qCInfo(hotkeyLog) << "The desktop portal does not answer";
+    setOffer(Offer::missing);
+  });
+  m_patience.start();
+  introduceProgram();
+}
+
+PortalHotkeyRegistrar::~PortalHotkeyRegistrar() {
+  m_shortcut.reset();
+  QDBusConnection::disconnectFromBus(m_bus.name());
+}
+
+bool PortalHotkeyRegistrar::registerHotkey(quint32 keyCode, quint32 classicModifiers) {
+  unregisterHotkey();
+  m_trigger = KeyNames::portalTrigger(keyCode, classicModifiers);
+  m_isToldRegistered = !m_trigger.isEmpty() && m_offer != Offer::missing;
+  askForShortcut();
+  return m_isToldRegistered;
+}
+
+void PortalHotkeyRegistrar::unregisterHotkey() {
+  m_trigger.clear();
+  m_shortcut.reset();
+}
+
+void PortalHotkeyRegistrar::followOwner(const QString &before, const QString &now) {
+  if (!before.isEmpty()) {
+    ++m_round;
+    m_isAsking = false;
+    m_portal.clear();
+    if (m_shortcut) {
+      m_shortcut.reset();
+      readLoss(u"the desktop portal has ended"_s);
+    }
+  }
+  // A portal that our question has made start has that question already.
+  if (!now.isEmpty() && !m_isAsking) {
+    introduceProgram();
+  }
+}
+
+/// A program that no sandbox speaks for says itself who it is. Portals that cannot be told know it
+/// by other means, or not at all.
+void PortalHotkeyRegistrar::introduceProgram() {
+  m_isAsking = true;
+  call(u"org.freedesktop.host.portal.Registry"_s, u"Register"_s, {applicationId, QVariantMap()},
+       [this](const QDBusMessage &reply) {
+         if (reply.type() == QDBusMessage::ErrorMessage) {
+           qCInfo(hotkeyLog).noquote()
+               << "The desktop portal does not take the program's name:" << reply.errorMessage();
+         }
+         askForOffer();
+       });
+}
+
+void PortalHotkeyRegistrar::askForOffer() {
+  call(u"org.freedesktop.DBus.Properties"_s, u"Get"_s,
+       {u"org.freedesktop.portal.GlobalShortcuts"_s, u"version"_s},
+       [this](const QDBusMessage &reply) {
+         m_isAsking = false;
+         const bool isThere = reply.type() == QDBusMessage::ReplyMessage;
+         if (!isThere) {
+           qCInfo(hotkeyLog).noquote()
+               << "The desktop portal has no global shortcuts:" << reply.errorMessage();
+         }
+         m_portal = isThere ? reply.service() : QString();
+         setOffer(isThere ? Offer::there : Offer::missing);
+         askForShortcut();
+       });
+}
+
+void PortalHotkeyRegistrar::call(const QString &interface, const QString &method,
+                                 const QVariantList &arguments, const Handler &handler) {
+  auto message = QDBusMessage::createMethodCall(serviceName, objectPath, interface, method);
+  message.setArguments(arguments);
+  auto *pending = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
+  connect(pending, &QDBusPendingCallWatcher::finished, this,
+          [this, pending, handler, round = m_round] {
+            pending->deleteLater();
+            if (round == m_round) {
+              handler(pending->reply());
+            }
+          });
+}
+
+void PortalHotkeyRegistrar::setOffer(Offer offer) {
+  m_patience.stop();
+  if (offer == m_offer) {
+    return;
+  }
+  m_offer = offer;
+  Q_EMIT offerChanged();
+  // Unless the wish has been taken elsewhere by now.
+  if (offer == Offer::missing && !m_trigger.isEmpty()) {
+    readLoss(u"it has none to offer"_s);
+  }
+}
+
+void PortalHotkeyRegistrar::askForShortcut() {
+  if (m_portal.isEmpty() || m_trigger.isEmpty() || m_shortcut) {
+    return;
+  }
+  m_shortcut = std::make_unique<PortalShortcut>(PortalPeer{m_bus, m_portal}, m_trigger);
+  connect(m_shortcut.get(), &PortalShortcut::activated, this, &HotkeyRegistrar::pressed);
+  connect(m_shortcut.get(), &PortalShortcut::granted, this, &PortalHotkeyRegistrar::readGrant);
+  connect(m_shortcut.get(), &PortalShortcut::lost, this, &PortalHotkeyRegistrar::readLoss);
+}
+
+void PortalHotkeyRegistrar::readGrant() {
+  qCDebug(hotkeyLog) << "the desktop portal grants" << m_trigger;
+  if (!std::exchange(m_isToldRegistered, true)) {
+    Q_EMIT registrationChanged(true);
+  }
+}
+
+void PortalHotkeyRegistrar::readLoss(const QString &reason) {
+  qCInfo(hotkeyLog).noquote() << "No shortcut from the desktop portal:" << reason;
+  if (std::exchange(m_isToldRegistered, false)) {
+    Q_EMIT registrationChanged(false);
+  }
+}
+
+}  // namespace lanternix

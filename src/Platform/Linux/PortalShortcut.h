@@ -1,0 +1,44 @@
+#pragma once
+
+#include "Platform/Linux/PortalRequest.h"
+
+#include <memory>
+
+namespace lanternix {
+
+/// One global shortcut that the desktop portal has been asked for, in a session of its own, since a
+/// session's shortcuts can be set only once.
+class PortalShortcut : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Asks for the combination \p trigger, such as "SHIFT+LOGO+space". The desktop may let the user
+  /// choose another one for it.
+  PortalShortcut(const PortalPeer &portal, const QString &trigger);
+  /// Gives the shortcut back, or takes the question back.
+  ~PortalShortcut() override;
+
+ Q_SIGNALS:
+  void granted();
+  /// It was refused, or taken away later. Nothing comes after this.
+  void lost(const QString &reason);
+  void activated();
+
+ private Q_SLOTS:
+  void readActivation(const QDBusMessage &signal);
+  void readEnd();
+
+ private:
+  void bind(const QVariantMap &session);
+  void readBound(const QVariantMap &results);
+  void ask(const QString &method, const QVariantList &arguments, const QVariantMap &options,
+           void (PortalShortcut::*onGranted)(const QVariantMap &));
+
+  PortalPeer m_portal;
+  QString m_trigger;
+  QString m_identifier;
+  QString m_session;
+  std::unique_ptr<PortalRequest> m_request;
+};
+
+}  // namespace lanternix

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "desktop/wayland/VirtualKeyboard.h"
+#include "support/ChildProcess.h"
+#include "support/ProgramEnvironment.h"
+#include "support/SessionBus.h"
+
+#include <QtCore/QJsonObject>
+
+#include <memory>
+#include <optional>
+
+namespace lanternix {
+
+/// A session of the compositor sway on a screen that is only memory, with a server for X programs,
+/// a bus, a home directory and a keyboard. Nothing moves in it: windows come and go at once.
+class SwaySession {
+ public:
+  /// \p configuration are lines of sway's configuration beside the session's own.
+  explicit SwaySession(const QString &configuration = {});
+
+  ProgramEnvironment &home() { return m_home; }
+  VirtualKeyboard &keyboard() { return *m_keyboard; }
+  SessionBus &bus() { return m_bus; }
+  const QString &displayName() const { return m_displayName; }
+  QString ipcSocket() const { return m_home.path(QStringLiteral("run/sway.sock")); }
+
+  /// The variables of programs in this session.
+  QProcessEnvironment variables() const;
+
+  /// Runs one of sway's commands; throws when sway refuses it.
+  void command(const QString &line) const;
+  /// Presses and releases the left button there.
+  void click(QPoint position) const;
+
+  /// The window with this title as sway describes it, while it is on the screen.
+  std::optional<QJsonObject> window(const QString &title) const;
+
+  /// A picture of the screen. Needs grim.
+  void savePicture(const QString &path) const;
+
+ private:
+  QByteArray run(const QString &program, const QStringList &arguments) const;
+  void waitForSocketNames();
+
+  ProgramEnvironment m_home;
+  SessionBus m_bus;
+  ChildProcess m_sway;
+  QString m_displayName;
+  QString m_waylandDisplay;
+  std::unique_ptr<VirtualKeyboard> m_keyboard;
+};
+
+}  // namespace lanternix

@@ -90,22 +90,42 @@ void PortalHotkeyRegistrar::askForOffer() {
   call(u"org.freedesktop.DBus.Properties"_s, u"Get"_s,
        {u"org.freedesktop.portal.GlobalShortcuts"_s, u"version"_s},
        [this](const QDBusMessage &reply) {
-         m_isAsking = false;
-         const bool isThere = reply.type() == QDBusMessage::ReplyMessage;
-         if (!isThere) {
-           qCInfo(hotkeyLog).noquote()
-               << "The desktop portal has no global shortcuts:" << reply.errorMessage();
+         if (reply.type() == QDBusMessage::ReplyMessage) {
+           askForName();
+           return;
          }
-         m_portal = isThere ? reply.service() : QString();
-         setOffer(isThere ? Offer::there : Offer::missing);
-         askForShortcut();
+         qCInfo(hotkeyLog).noquote()
+             << "The desktop portal has no global shortcuts:" << reply.errorMessage();
+         m_isAsking = false;
+         m_portal.clear();
+         setOffer(Offer::missing);
        });
+}
+
+/// Of the bus, because replies do not name their sender in every version of Qt.
+void PortalHotkeyRegistrar::askForName() {
+  const QString bus = u"org.freedesktop.DBus"_s;
+  auto question =
+      QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, u"GetNameOwner"_s);
+  question.setArguments({serviceName});
+  send(question, [this](const QDBusMessage &reply) {
+    m_isAsking = false;
+    if (reply.signature() == "s"_L1) {
+      m_portal = reply.arguments().constFirst().toString();
+      setOffer(Offer::there);
+      askForShortcut();
+    }
+  });
 }
 
 void PortalHotkeyRegistrar::call(const QString &interface, const QString &method,
                                  const QVariantList &arguments, const Handler &handler) {
   auto message = QDBusMessage::createMethodCall(serviceName, objectPath, interface, method);
   message.setArguments(arguments);
+  send(message, handler);
+}
+
+void PortalHotkeyRegistrar::send(const QDBusMessage &message, const Handler &handler) {
   auto *pending = new QDBusPendingCallWatcher(m_bus.asyncCall(message), this);
   connect(pending, &QDBusPendingCallWatcher::finished, this,
           [this, pending, handler, round = m_round] {

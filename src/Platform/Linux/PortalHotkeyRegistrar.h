@@ -46,8 +46,10 @@ class PortalHotkeyRegistrar : public HotkeyRegistrar {
   void followOwner(const QString &before, const QString &now);
   void introduceProgram();
   void askForOffer();
+  void askForName();
   void call(const QString &interface, const QString &method, const QVariantList &arguments,
             const Handler &handler);
+  void send(const QDBusMessage &message, const Handler &handler);
   void setOffer(Offer offer);
   void askForShortcut();
   void readGrant();

@@ -112,7 +112,9 @@ TEST_F(SpawnProcessLauncherTest, StandardStreams_AreInherited) {
     const auto length = readlink(link.constData(), text.data(), text.size());
     return QByteArray(text.data(), length);
   };
-  const QByteArray streams = outputOf(u"ls -l /proc/$$/fd | sed -n 's/.* -> //p' > \"$OUT\""_s);
+  // By substitution, lest the shell's own output be sent elsewhere while it is asked where it goes.
+  const QByteArray streams = outputOf(
+      u"streams=$(cd /proc/$$/fd; readlink 0 1 2); printf '%s\\n' \"$streams\" > \"$OUT\""_s);
   EXPECT_EQ(streams, target(0) + '\n' + target(1) + '\n' + target(2) + '\n');
 }
 

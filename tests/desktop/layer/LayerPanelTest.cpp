@@ -193,11 +193,10 @@ TEST_P(LayerPanelTest, RightBottomCorner_ResizesThePanel_WhichKeepsItsSize) {
   const QRect before = frame();
   input().drag(before.bottomRight() - QPoint(1, 1), before.bottomRight() + QPoint(59, 39));
   ASSERT_TRUE(becomesNear(before.adjusted(0, 0, 60, 40)));
-  const QSize size = panelOnScreen(settledPicture(), LayerSession::screenSize).size();
-  EXPECT_EQ(frame().topLeft(), before.topLeft());
-  EXPECT_TRUE(waitUntil([&] {
-    return session->home().preference(u"panelWidth"_s) == QString::number(size.width());
-  }));
+  const auto stored = [this](const QString &key) { return session->home().preference(key); };
+  ASSERT_TRUE(waitUntil([&] { return stored(u"panelHeight"_s).has_value(); }));
+  const QSize size(stored(u"panelWidth"_s)->toInt(), stored(u"panelHeight"_s)->toInt());
+  EXPECT_TRUE(becomes({before.topLeft(), size}));
   input().tap(KEY_ESC);
   ASSERT_TRUE(becomesHidden());
   showAgain();

@@ -193,15 +193,18 @@ TEST_P(LayerPanelTest, RightBottomCorner_ResizesThePanel_WhichKeepsItsSize) {
   const QRect before = frame();
   input().drag(before.bottomRight() - QPoint(1, 1), before.bottomRight() + QPoint(59, 39));
   ASSERT_TRUE(becomesNear(before.adjusted(0, 0, 60, 40)));
-  const QSize size = panelOnScreen(settledPicture(), LayerSession::screenSize).size();
-  EXPECT_EQ(frame().topLeft(), before.topLeft());
-  EXPECT_TRUE(waitUntil([&] {
-    return session->home().preference(u"panelWidth"_s) == QString::number(size.width());
-  }));
+  const auto stored = [this](const QString &key) { return session->home().preference(key); };
+  const auto isKept = [&] {
+    const QSize shown = frame().size();
+    return stored(u"panelWidth"_s) == QString::number(shown.width()) &&
+           stored(u"panelHeight"_s) == QString::number(shown.height());
+  };
+  ASSERT_TRUE(waitUntil(isKept));
+  const QSize kept = frame().size();
   input().tap(KEY_ESC);
   ASSERT_TRUE(becomesHidden());
   showAgain();
-  EXPECT_TRUE(becomes(centred(size)));
+  EXPECT_TRUE(becomes(centred(kept)));
 }
 
 TEST_P(LayerPanelTest, LeftTopCorner_LeavesTheOppositeOneWhereItIs) {
@@ -254,6 +257,23 @@ TEST_P(LayerPanelTest, DarkDesktop_MakesPanelMenuAndSettingsDark) {
   EXPECT_TRUE(
       waitUntil([&] { return ground() == QColor(0x262629) || ground() == QColor(0x1E1E1E); }));
   savePicture(u"settings-dark"_s);
+}
+
+TEST_P(LayerPanelTest, PressOnAnotherWindow_HidesThePanel) {
+  if (GetParam() == Compositor::sway) {
+    GTEST_SKIP() << "a press on the window that had the keyboard before does not take it back here";
+  }
+  session = std::make_unique<LayerSession>(GetParam());
+  const QImage empty = settledPicture();
+  ChildProcess terminal(u"foot"_s, u"foot"_s);
+  terminal.start({u"--maximized"_s}, session->variables());
+  require(u"the terminal"_s, [&] { return session->picture() != empty; });
+  writeGroups();
+  program = run();
+  require(u"the panel"_s, [this] { return isShown(); });
+  settledPicture();
+  input().click({60, 700});
+  EXPECT_TRUE(becomesHidden());
 }
 
 TEST_P(LayerPanelTest, SettingsFromThePanel_HaveTheKeyboard) {

@@ -68,6 +68,8 @@ ShortcutsPortal::ShortcutsPortal(const QString &busAddress, Nature nature)
 }
 
 ShortcutsPortal::~ShortcutsPortal() {
+  // First: a call that comes in while the connection is being ended would be kept by the dead one.
+  m_connection.unregisterObject(desktopPath, QDBusConnection::UnregisterTree);
   QDBusConnection::disconnectFromBus(m_connectionName);
 }
 

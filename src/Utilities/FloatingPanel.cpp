@@ -60,6 +60,7 @@ void FloatingPanel::makeKeyAndOrderFront() {
   m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);  // where Qt keeps no positions
   if (!isVisible()) {
     m_hasBeenSeen = false;
+    m_isInPlace = false;
     updateShape();  // the screen may have another scale now
     m_windowSystem.preparePanel(*windowHandle());
   }
@@ -106,9 +107,14 @@ void FloatingPanel::setFrame(const QRect &frame) {
 /// need not say so. Asked once more for the same, it has to.
 void FloatingPanel::confirmPlace() {
   const bool isInTheUsersHand = m_isDragged || m_edgeResizer->isResizing();
-  if (!isInTheUsersHand && windowHandle()->geometry() != m_wantedGeometry) {
+  m_isInPlace = isInTheUsersHand || windowHandle()->geometry() == m_wantedGeometry;
+  if (!m_isInPlace) {
     m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);
   }
+}
+
+void FloatingPanel::moveEvent(QMoveEvent * /*event*/) {
+  m_isInPlace = m_isInPlace || m_hasBeenSeen;
 }
 
 void FloatingPanel::paintEvent(QPaintEvent *event) {
@@ -148,7 +154,9 @@ void FloatingPanel::hideEvent(QHideEvent * /*event*/) {
 }
 
 void FloatingPanel::updateCompositing() {
-  const QRect frameBefore = frame();
+  const bool isOnItsWay = isVisible() && !m_isInPlace;
+  const QRect frameBefore =
+      isOnItsWay ? m_wantedGeometry.marginsRemoved(contentsMargins()) : frame();
   const bool isComposited = m_windowSystem.isComposited();
   const QMargins shadow = isComposited ? PanelShadow::margins : QMargins();
   setAttribute(Qt::WA_TranslucentBackground, isComposited);

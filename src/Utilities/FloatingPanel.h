@@ -55,6 +55,7 @@ class FloatingPanel : public QWidget {
   void closeEvent(QCloseEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
   void resizeEvent(QResizeEvent *event) override;
+  void moveEvent(QMoveEvent *event) override;
   void hideEvent(QHideEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;
@@ -72,6 +73,9 @@ class FloatingPanel : public QWidget {
   QTimer m_resizePause;
   bool m_hasBeenSeen = false;
   QRect m_wantedGeometry;
+  /// False until the window manager has brought the shown window to its place and said so: until
+  /// then its position may be one that it merely passed.
+  bool m_isInPlace = false;
   bool m_isDragged = false;
   QPoint m_dragOffset;
 };

@@ -34,6 +34,40 @@ class FloatingPanelTest : public testing::Test {
   FloatingPanel panel{windowSystem};
 };
 
+/// Takes its time with a window that it is asked to move.
+class SlowWindowSystem : public QtWindowSystem {
+ public:
+  bool isComposited() const override { return m_isComposited; }
+  void setGeometry(QWindow & /*window*/, const QRect &geometry) override { asked = geometry; }
+  void setComposited(bool isComposited) {
+    m_isComposited = isComposited;
+    Q_EMIT compositingChanged();
+  }
+
+  QRect asked;
+
+ private:
+  bool m_isComposited = true;
+};
+
+/// A panel that the window manager is still bringing to its place.
+class FloatingPanelOnItsWayTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    panel.setFrame(frame);
+    panel.makeKeyAndOrderFront();
+    panel.windowHandle()->setPosition(0, 0);
+    windowSystem.asked = {};
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+    QCoreApplication::processEvents();
+    ASSERT_EQ(panel.pos(), QPoint(0, 0));
+  }
+
+  static constexpr QRect frame{200, 150, 500, 400};
+  SlowWindowSystem windowSystem;
+  FloatingPanel panel{windowSystem};
+};
+
 }  // namespace
 
 TEST_F(FloatingPanelTest, StartsInItsUsualSize) {
@@ -70,6 +104,25 @@ TEST_F(FloatingPanelTest, IsNotClosedByTheWindowManager) {
   EXPECT_FALSE(panel.close());
   EXPECT_TRUE(panel.isVisible());
   EXPECT_EQ(asked.count(), 1);
+}
+
+TEST_F(FloatingPanelOnItsWayTest, FoundElsewhere_IsAskedForItsPlaceOnceMore) {
+  EXPECT_EQ(windowSystem.asked.marginsRemoved(panel.contentsMargins()), frame);
+}
+
+TEST_F(FloatingPanelOnItsWayTest, CompositorThatEnds_LeavesItsPlaceToIt) {
+  windowSystem.setComposited(false);
+  EXPECT_EQ(panel.frame(), frame);
+}
+
+TEST_F(FloatingPanelOnItsWayTest, MovedByTheUserOnceThere_StaysWhereItIsWhenACompositorEnds) {
+  panel.windowHandle()->setGeometry(windowSystem.asked);
+  QCoreApplication::processEvents();
+  panel.windowHandle()->setPosition(90, 70);
+  QCoreApplication::processEvents();
+  const QRect moved = panel.frame();
+  windowSystem.setComposited(false);
+  EXPECT_EQ(panel.frame(), moved);
 }
 
 }  // namespace lanternix

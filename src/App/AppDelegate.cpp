@@ -64,7 +64,8 @@ void AppDelegate::setupPanel() {
   m_panel = std::make_unique<FloatingPanel>(m_windowSystem);
   auto content = std::make_unique<PopupPanelView>(m_appState);
   content->focusSearch();
-  connect(m_panel.get(), &FloatingPanel::didBecomeKey, content.get(), &PopupPanelView::focusSearch);
+  m_content = content.get();
+  connect(m_panel.get(), &FloatingPanel::didBecomeKey, m_content, &PopupPanelView::focusSearch);
   m_panel->setContentView(std::move(content));
   m_appState.onHide = [this] { m_panel->orderOut(); };
   m_appState.onShowPanel = [this] { showPanel(); };
@@ -161,12 +162,9 @@ bool AppDelegate::handleKey(const QKeyEvent &press) {
     m_appState.hidePanel();
     return true;
   }
-  if (key == KeyCodes::upArrow) {
-    m_appState.navigateUp();
-    return true;
-  }
-  if (key == KeyCodes::downArrow) {
-    m_appState.navigateDown();
+  if (key == KeyCodes::upArrow || key == KeyCodes::downArrow) {
+    key == KeyCodes::upArrow ? m_appState.navigateUp() : m_appState.navigateDown();
+    m_content->focusSearch();  // so that Return is for the item, whatever Tab had led to
     return true;
   }
   // A button that has the keyboard is what Return is meant for.

@@ -17,6 +17,7 @@ class FloatingPanel;
 class GlobalMouseMonitor;
 class LocalKeyMonitor;
 class LoginItem;
+class PopupPanelView;
 class SettingsView;
 class WindowSystem;
 
@@ -65,6 +66,7 @@ class AppDelegate : public QObject {
   AppState m_appState;
   QTimer m_firstShow;
   std::unique_ptr<FloatingPanel> m_panel;
+  PopupPanelView *m_content = nullptr;  ///< the panel's
   std::unique_ptr<LocalKeyMonitor> m_keyMonitor;
   DesktopFileChooser m_fileChooser;
   /// Made when it is first opened.

@@ -75,7 +75,8 @@ void followCompositing(const WindowSystem &windowSystem, LanternixStyle &style) 
   apply();
 }
 
-/// Owns the program's item in the tray, and is asked for it by the event loop at its leisure.
+/// Owns the program's item in the tray: makes it once the event loop runs, so that the panel does
+/// not wait for it, and lets it go before the delegate that it shows the items of.
 class TrayShell : public QObject {
  public:
   TrayShell(AppDelegate &delegate, Platform &platform)

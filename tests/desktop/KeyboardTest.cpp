@@ -134,6 +134,15 @@ TEST_F(KeyboardTest, LettersAfterTab_AreSearchedFor) {
   EXPECT_TRUE(becomesMarked(u"second"_s));
 }
 
+TEST_F(KeyboardTest, ReturnAfterTabAndAnArrow_OpensTheItem) {
+  start(commands({u"first"_s, u"second"_s}));
+  input().tap(XK_Tab);
+  input().tap(XK_Down);
+  input().tap(XK_Down);
+  input().tap(XK_Return);
+  EXPECT_TRUE(becomesMarked(u"second"_s));
+}
+
 TEST_F(KeyboardTest, TabAndReturn_OpenTheSettings) {
   startWithThree();
   input().tap(XK_Tab);

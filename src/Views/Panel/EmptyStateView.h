@@ -14,6 +14,7 @@ class EmptyStateView : public QWidget {
   explicit EmptyStateView(QWidget *parent = nullptr);
 
  Q_SIGNALS:
+  /// The button has been pressed.
   void settingsRequested();
 
  protected:

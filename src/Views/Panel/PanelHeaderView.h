@@ -12,6 +12,7 @@ class PanelHeaderView : public QWidget {
   explicit PanelHeaderView(QWidget *parent = nullptr);
 
  Q_SIGNALS:
+  /// The button has been pressed.
   void settingsRequested();
 };
 

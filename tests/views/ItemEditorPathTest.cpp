@@ -136,6 +136,30 @@ TEST_F(ItemEditorPathTest, ACommandOfSeveralLines_BecomesOneLineWithAnotherType)
   EXPECT_EQ(state->items().first().path, u"/tmp/one two"_s);
 }
 
+TEST_F(ItemEditorPathTest, ACommandOfSeveralLines_IsItselfAgainWhenAnotherTypeWasOnlyPassed) {
+  const ItemEditorView *editor = openNew();
+  picker(*editor, u"Type"_s)->setCurrentIndex(3);
+  field(*editor, u"Name"_s)->setText(u"Both"_s);
+  field(*editor, u"Command"_s)->setText(u"echo one # first\necho two"_s);
+  picker(*editor, u"Type"_s)->setCurrentIndex(2);
+  picker(*editor, u"Type"_s)->setCurrentIndex(1);
+  picker(*editor, u"Type"_s)->setCurrentIndex(3);
+  button(*editor, u"Add Item"_s)->click();
+  EXPECT_EQ(state->items().first().path, u"echo one # first\necho two"_s);
+}
+
+TEST_F(ItemEditorPathTest, ATextThatWasChangedMeanwhile_IsNotTakenForTheCommandThatWasLeft) {
+  const ItemEditorView *editor = openNew();
+  picker(*editor, u"Type"_s)->setCurrentIndex(3);
+  field(*editor, u"Name"_s)->setText(u"Both"_s);
+  field(*editor, u"Command"_s)->setText(u"echo one\necho two"_s);
+  picker(*editor, u"Type"_s)->setCurrentIndex(1);
+  field(*editor, u"Path"_s)->setText(u"echo three"_s);
+  picker(*editor, u"Type"_s)->setCurrentIndex(3);
+  button(*editor, u"Add Item"_s)->click();
+  EXPECT_EQ(state->items().first().path, u"echo three"_s);
+}
+
 TEST_F(ItemEditorPathTest, AStoredPathWithALineBreak_IsSavedAsItWas) {
   PathItem item = typed(ItemType::file);
   item.path = u"/tmp/one\ntwo"_s;

@@ -117,17 +117,23 @@ void ItemEditorView::addTypeRow(FormSection &section) {
   for (const ItemType type : allItemTypes) {
     picker->addItem(symbolIcon(systemImage(type)), displayName(type));
   }
-  connect(picker, &QComboBox::currentIndexChanged, this, [this](int index) {
-    const bool wasCommand = m_selectedType == ItemType::command;
-    setSelectedType(allItemTypes.at(static_cast<std::size_t>(index)));
-    if (wasCommand) {
-      // It may be of several lines. The field looks only at a text that is new to it.
-      const QString command = m_path->text();
-      m_path->clear();
-      m_path->setText(command);
-    }
-  });
+  connect(picker, &QComboBox::currentIndexChanged, this,
+          [this](int index) { chooseType(allItemTypes.at(static_cast<std::size_t>(index))); });
   section.addRow(makeRow(makeTitle(u"Type"_s, this), picker).release());
+}
+
+void ItemEditorView::chooseType(ItemType type) {
+  const QString text = m_path->text();
+  const bool wasCommand = m_selectedType == ItemType::command;
+  setSelectedType(type);
+  if (wasCommand) {
+    // It may be of several lines. The field looks only at a text that is new to it.
+    m_path->clear();
+    m_path->setText(text);
+    m_leftCommand = {.lines = text, .line = m_path->text()};
+  } else if (type == ItemType::command && text == m_leftCommand.line) {
+    m_path->setText(m_leftCommand.lines);
+  }
 }
 
 void ItemEditorView::setSelectedType(ItemType type) {

@@ -29,6 +29,8 @@ class ItemEditorView : public SheetDialog {
 
  private:
   void addTypeRow(FormSection &section);
+  /// By the user, who may pass a type on the way to another.
+  void chooseType(ItemType type);
   void setSelectedType(ItemType type);
   void browseForPath();
   void setChosenPath(const QString &path);
@@ -46,6 +48,12 @@ class ItemEditorView : public SheetDialog {
   TextField *m_path;
   QPushButton *m_browse;
   GroupPicker *m_group;
+  /// A command of several lines that another type has made one line of, to be had back.
+  struct LeftCommand {
+    QString lines;
+    QString line;
+  };
+  LeftCommand m_leftCommand;
 };
 
 }  // namespace lanternix

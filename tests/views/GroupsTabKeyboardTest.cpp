@@ -44,6 +44,27 @@ TEST_F(GroupsTabKeyboardTest, F2AndReturn_Edit) {
   EXPECT_NE(dialogOf<ItemEditorView>(), nullptr);
 }
 
+TEST_F(GroupsTabKeyboardTest, AKeyThatIsHeld_DoesNotEditAnew) {
+  show();
+  click(groupList(), 0);
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_F2, Qt::Key_Delete}) {
+    QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(&groupList(), &repeat);
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_TRUE(repeat.isAccepted());
+  }
+}
+
+TEST_F(GroupsTabKeyboardTest, GroupsDeletedOneAfterAnother_LeaveTheKeyboardInTheirPlace) {
+  const PathGroup third = group(u"Third"_s, 2);
+  show({work, home_, third}, {});
+  click(groupList(), 1);
+  press(groupList(), Qt::Key_Delete);
+  answer(u"Delete Group"_s);
+  press(groupList(), Qt::Key_Down);
+  EXPECT_EQ(tab->selectedGroupId(), third.id);
+}
+
 TEST_F(GroupsTabKeyboardTest, Delete_WithNothingSelected_AsksNothing) {
   show();
   press(groupList(), Qt::Key_Delete);

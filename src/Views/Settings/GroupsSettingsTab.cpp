@@ -118,13 +118,9 @@ void GroupsSettingsTab::askToDeleteGroup(const QUuid &id) {
 }
 
 void GroupsSettingsTab::deleteGroup(const QUuid &id) {
-  if (m_appState.groupWithId(id) == nullptr) {
-    return;  // it has gone while the question was asked
+  if (m_appState.groupWithId(id) != nullptr) {  // else it has gone while the question was asked
+    m_appState.deleteGroup(id);
   }
-  if (selectedGroupId() == id) {
-    m_sidebar->list().setSelectedId({});
-  }
-  m_appState.deleteGroup(id);
 }
 
 void GroupsSettingsTab::showGroupMenu(const QUuid &id, const QPoint &position) {

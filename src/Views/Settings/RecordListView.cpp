@@ -134,7 +134,6 @@ void RecordListView::keyPressEvent(QKeyEvent *event) {
 
 bool RecordListView::handleKey(const QKeyEvent &event) {
   const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
-  const std::optional<QUuid> id = m_selectedId;
   const int step = event.key() == Qt::Key_Up ? -1 : 1;
   switch (event.key()) {
     case Qt::Key_Up:
@@ -145,23 +144,28 @@ bool RecordListView::handleKey(const QKeyEvent &event) {
     case Qt::Key_F2:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (id.has_value() && modifiers == Qt::NoModifier) {
-        Q_EMIT editRequested(*id);
-        return true;
-      }
-      return false;
+      return ask(event, &RecordListView::editRequested);
     case Qt::Key_F10:
       // Many keyboards have no menu key, for which this is the usual replacement.
       return modifiers == Qt::ShiftModifier && openMenuOfSelected();
     case Qt::Key_Delete:
-      if (id.has_value() && modifiers == Qt::NoModifier) {
-        Q_EMIT deletionRequested(*id);
-        return true;
-      }
-      return false;
+      return ask(event, &RecordListView::deletionRequested);
     default:
       return false;
   }
+}
+
+/// A key that is held asks once: its repeats would meet the dialog's default button, and this list
+/// again once that has closed the dialog.
+bool RecordListView::ask(const QKeyEvent &event, void (RecordListView::*request)(const QUuid &)) {
+  const bool isPlain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  if (!m_selectedId.has_value() || !isPlain) {
+    return false;
+  }
+  if (!event.isAutoRepeat()) {
+    Q_EMIT(this->*request)(QUuid(*m_selectedId));
+  }
+  return true;
 }
 
 bool RecordListView::moveSelected(int step) {

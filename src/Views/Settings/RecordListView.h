@@ -74,6 +74,7 @@ class RecordListView : public QListView {
   void restoreSelection();
   void note(const std::optional<QUuid> &selected);
   bool handleKey(const QKeyEvent &event);
+  bool ask(const QKeyEvent &event, void (RecordListView::*request)(const QUuid &));
   bool moveSelected(int step);
   bool openMenuOfSelected();
   bool selectAnew(int step);

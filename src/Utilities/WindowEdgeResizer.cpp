@@ -6,6 +6,8 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWindow>
 
+#include <utility>
+
 namespace lanternix {
 
 namespace {
@@ -56,9 +58,10 @@ bool WindowEdgeResizer::eventFilter(QObject * /*watched*/, QEvent *event) {
       return move(*static_cast<QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
       return release(*static_cast<QMouseEvent *>(event));
-    case QEvent::Leave:
     case QEvent::Hide:
-      m_resizing = m_resizing && event->type() != QEvent::Hide;
+      endResizing();
+      [[fallthrough]];
+    case QEvent::Leave:
       if (!m_resizing) {
         showCursor({});
       }
@@ -99,11 +102,14 @@ bool WindowEdgeResizer::release(const QMouseEvent &event) {
   if (!m_resizing || event.button() != Qt::LeftButton) {
     return false;
   }
-  m_resizing = false;
-  if (m_window.size() != m_pressGeometry.size()) {
+  endResizing();
+  return true;
+}
+
+void WindowEdgeResizer::endResizing() {
+  if (std::exchange(m_resizing, false) && m_window.size() != m_pressGeometry.size()) {
     Q_EMIT finished();
   }
-  return true;
 }
 
 void WindowEdgeResizer::showCursor(Qt::Edges edges) {

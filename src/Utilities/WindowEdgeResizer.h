@@ -23,14 +23,15 @@ class WindowEdgeResizer : public QObject {
   /// What of the window lies outside its edges, in logical pixels; nothing at first.
   void setMargins(const QMargins &margins) { m_margins = margins; }
 
+  /// Whether the user holds an edge that the program itself moves.
   bool isResizing() const { return m_resizing; }
 
   /// The edges at a position in the window, in logical pixels; none inside.
   Qt::Edges edgesAt(const QPoint &position) const;
 
  Q_SIGNALS:
-  /// The user has let go of an edge and the size has changed. Not told of a resize that the window
-  /// system has carried out.
+  /// The user has let go of an edge, or the window has been hidden meanwhile, and the size has
+  /// changed. Not told of a resize that the window system has carried out.
   void finished();
 
  protected:
@@ -40,6 +41,7 @@ class WindowEdgeResizer : public QObject {
   bool press(const QMouseEvent &event);
   bool move(const QMouseEvent &event);
   bool release(const QMouseEvent &event);
+  void endResizing();
   void showCursor(Qt::Edges edges);
   QRect resized(const QPoint &distance) const;
 

@@ -92,6 +92,16 @@ TEST_F(FloatingPanelTest, CannotBeShrunkBelow400By300) {
   EXPECT_EQ(panel.geometry(), QRect(200, 150, 400, 300));
 }
 
+TEST_F(FloatingPanelTest, HiddenWhileAnEdgeIsHeld_HasBeenResized) {
+  const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
+  QWindow *window = panel.windowHandle();
+  QTest::mousePress(window, Qt::LeftButton, {}, {498, 398});
+  QTest::mouseMove(window, {558, 438});
+  panel.orderOut();
+  EXPECT_EQ(resized.count(), 1);
+  EXPECT_EQ(panel.frame().size(), QSize(560, 440));
+}
+
 TEST_F(FloatingPanelTest, IsMovedByItsBackground) {
   const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
   drag({250, 200}, {30, 20});

@@ -26,7 +26,8 @@ class HotkeyService : public QObject {
   HotkeyShortcut currentShortcut() const { return m_currentShortcut; }
 
   /// Stores \p shortcut, releases the old registration, then registers the new one, also when both
-  /// are equal. When the system refuses it, no hotkey is active until the next assignment.
+  /// are equal. When the system refuses it, no hotkey is active until the next assignment, or
+  /// until the system grants it later by itself.
   void setCurrentShortcut(const HotkeyShortcut &shortcut);
 
   /// Whether the system delivers presses of the current shortcut, as far as it has said. Where it

@@ -47,7 +47,7 @@ class JsonWriter {
   void startLine();
   void append(char character);
   void append(std::string_view bytes);
-  /// All three want room for an escape, six bytes.
+  /// Both want room for an escape, six bytes.
   const char16_t *putCharacter(const char16_t *unit, const char16_t *end);
   void putEscaped(char16_t unit);
   /// Makes sure that \p count more bytes fit.

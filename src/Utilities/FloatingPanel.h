@@ -32,6 +32,7 @@ class FloatingPanel : public QWidget {
 
   /// The panel without its shadow, on the screen.
   QRect frame() const { return geometry().marginsRemoved(contentsMargins()); }
+  /// Moves and resizes the panel so that it takes up \p frame, its shadow lying around that.
   void setFrame(const QRect &frame);
 
   /// Shows the window in front of all others and gives it the keyboard. Only in answer to an action

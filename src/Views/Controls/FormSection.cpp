@@ -91,7 +91,7 @@ void FormSection::addRow(const QString &title, const QString &caption, QWidget *
 
 void FormSection::clear() {
   while (const std::unique_ptr<QLayoutItem> item{m_rows->takeAt(0)}) {
-    // A row may be cleared by what a press on it has brought about, before the press gets there.
+    // Later: who asks for this may be a control of the row that has just been pressed.
     item->widget()->hide();
     item->widget()->deleteLater();
   }

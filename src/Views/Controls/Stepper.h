@@ -6,10 +6,10 @@ namespace lanternix {
 
 /// A whole number of things, stepped by its buttons and the arrow keys or typed.
 ///
-/// valueChanged() tells of a typed number when it is finished (Return, or the keyboard goes to
-/// another control): on the way to "30" nobody means 3, nor does who looks something up in another
-/// window before typing on. The wheel changes nothing, since it is meant for the page under the
-/// pointer.
+/// valueChanged() tells of a typed number when it is finished (Return, the keyboard goes to another
+/// control, or the stepper is hidden): on the way to "30" nobody means 3, nor does who looks
+/// something up in another window before typing on. The wheel changes nothing, since it is meant
+/// for the page under the pointer.
 class Stepper : public QSpinBox {
   Q_OBJECT
 

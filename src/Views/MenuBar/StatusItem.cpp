@@ -15,7 +15,7 @@ namespace lanternix {
 
 namespace {
 
-Q_LOGGING_CATEGORY(statusItem, "lanternix.tray", QtWarningMsg)
+Q_LOGGING_CATEGORY(statusItem, "lanternix.tray", QtInfoMsg)
 
 }  // namespace
 
@@ -35,7 +35,8 @@ void StatusItem::showWhereThereIsATray() {
   }
   if (m_icon) {
     if (kind != m_kind) {
-      qCWarning(statusItem) << "The icon will be in the tray of another kind after a new start";
+      // Also while the tray of this kind is merely being started anew.
+      qCInfo(statusItem) << "The icon will be in the tray of another kind after a new start";
     }
     return;
   }

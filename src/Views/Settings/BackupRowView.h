@@ -17,6 +17,7 @@ class BackupRowView : public QWidget {
   BackupRowView(const BackupInfo &backup, std::optional<qint64> size, QWidget *parent = nullptr);
 
  Q_SIGNALS:
+  /// The button has been pressed. Nothing has been asked or done yet.
   void restoreRequested();
 };
 

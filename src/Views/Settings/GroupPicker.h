@@ -22,6 +22,7 @@ class GroupPicker : public QComboBox {
   const std::optional<QUuid> &selectedGroupId() const { return m_selectedGroupId; }
 
  Q_SIGNALS:
+  /// Also when the selected group has gone, which leaves none selected.
   void selectedGroupIdChanged();
 
  private:

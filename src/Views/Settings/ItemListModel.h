@@ -25,6 +25,7 @@ class ItemListModel : public RecordListModel {
 
   /// None: no rows.
   const std::optional<QUuid> &groupId() const { return m_groupId; }
+  /// Shows the rows of another group, as a list that starts anew.
   void setGroupId(const std::optional<QUuid> &id);
 
   /// Null where there is no row.

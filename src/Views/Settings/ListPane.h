@@ -15,6 +15,7 @@ class ListPane : public QStackedWidget {
   ListPane(QWidget *content, const ListPlaceholder::Content &placeholder,
            QWidget *parent = nullptr);
 
+  /// Shows the content, or else the placeholder in its place.
   void setContentShown(bool shown);
 
  private:

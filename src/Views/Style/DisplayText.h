@@ -13,8 +13,8 @@ namespace DisplayText {
 /// direction of what follows. Unchanged, and not copied, when it has none.
 QString singleLine(const QString &text);
 
-/// \p text cut to at most \p length code units, never within a character: its beginning, or, with
-/// Qt::ElideMiddle, its beginning and its end around an ellipsis.
+/// \p text cut to at most \p length code units, never within a surrogate pair: its beginning, or,
+/// with Qt::ElideMiddle, its beginning and its end around an ellipsis.
 QString shortened(const QString &text, qsizetype length, Qt::TextElideMode mode);
 
 /// \p text in one line of at most \p width logical pixels, with an ellipsis where something had to

@@ -1,6 +1,7 @@
 #include "Views/Style/SpokenText.h"
 
 #include "Models/PathItem.h"
+#include "Views/Style/DisplayText.h"
 
 #include <QtCore/QStringList>
 
@@ -10,10 +11,7 @@ namespace lanternix::SpokenText {
 
 QString of(const QString &text) {
   constexpr qsizetype longest = 1000;
-  QString result = text.left(longest);
-  if (!result.isEmpty() && result.back().isHighSurrogate()) {
-    result.chop(1);
-  }
+  QString result = DisplayText::shortened(text, longest, Qt::ElideRight);
   for (QChar &character : result) {
     if (character.category() == QChar::Other_Control) {
       character = u' ';

@@ -44,8 +44,8 @@ class SymbolIconEngine : public PaintedIconEngine {
   }
 
   QIconEngine *clone() const override {
-    return new SymbolIconEngine(m_name, m_color);
-  }  // the icon's
+    return new SymbolIconEngine(m_name, m_color);  // owned by the icon
+  }
 
  private:
   QString m_name;

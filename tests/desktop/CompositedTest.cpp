@@ -7,8 +7,8 @@ namespace lanternix {
 using namespace Qt::StringLiterals;
 
 CompositedTest::CompositedTest(Compositing compositing, DesktopSession::WithManager withManager,
-                               QSize screenSize)
-    : DesktopTest(withManager, DesktopSession::WithBus::yes, screenSize) {
+                               QSize screenSize, VirtualDisplay::Outputs outputs)
+    : DesktopTest(withManager, DesktopSession::WithBus::yes, screenSize, outputs) {
   if (compositing == Compositing::on) {
     startCompositor();
   }

@@ -18,7 +18,8 @@ class CompositedTest : public DesktopTest {
   explicit CompositedTest(
       Compositing compositing,
       DesktopSession::WithManager withManager = DesktopSession::WithManager::yes,
-      QSize screenSize = {1280, 900});
+      QSize screenSize = {1280, 900},
+      VirtualDisplay::Outputs outputs = VirtualDisplay::Outputs::one);
 
   /// What the shadow takes around the frame at scale 1.
   static constexpr QMargins shadow{36, 28, 36, 48};

@@ -28,8 +28,8 @@ QRect difference(const QImage &before, const QImage &after, const QRect &area) {
 }  // namespace
 
 DesktopTest::DesktopTest(DesktopSession::WithManager withManager, DesktopSession::WithBus withBus,
-                         QSize screenSize)
-    : m_session(withManager, withBus, screenSize) {}
+                         QSize screenSize, VirtualDisplay::Outputs outputs)
+    : m_session(withManager, withBus, screenSize, outputs) {}
 
 void DesktopTest::start(const SampleGroups &groups) {
   ProgramEnvironment::write(m_session.home().dataFile(), groups.json());

@@ -19,7 +19,8 @@ class DesktopTest : public testing::Test {
  protected:
   explicit DesktopTest(DesktopSession::WithManager withManager = DesktopSession::WithManager::yes,
                        DesktopSession::WithBus withBus = DesktopSession::WithBus::yes,
-                       QSize screenSize = {1280, 900});
+                       QSize screenSize = {1280, 900},
+                       VirtualDisplay::Outputs outputs = VirtualDisplay::Outputs::one);
 
   // --- The program ------------------------------------------------------------------------------
 

@@ -9,17 +9,21 @@ namespace {
 using namespace Qt::StringLiterals;
 
 // Side by side, of different height; the right one shows everything at twice its size.
+constexpr int leftOutput = 0;
+constexpr int rightOutput = 1;
 constexpr QRect leftMonitor{0, 0, 1280, 900};
 constexpr QRect rightMonitor{1280, 0, 1600, 1200};
 constexpr QSize panelSize{700, 500};
 
 class WindowManagerMonitorsTest : public WindowManagerTest {
  protected:
-  WindowManagerMonitorsTest() : WindowManagerTest({2880, 1200}) {
-    monitors.plugIn(u"left"_s, leftMonitor);
-    monitors.plugIn(u"right"_s, rightMonitor);
+  WindowManagerMonitorsTest() : WindowManagerTest({2880, 1200}, VirtualDisplay::Outputs::several) {
+    monitors.plugIn(leftOutput, leftMonitor);
+    monitors.plugIn(rightOutput, rightMonitor);
     manager().settle();
-    session().home().set(u"QT_SCREEN_SCALE_FACTORS"_s, u"left=1;right=2"_s);
+    session().home().set(
+        u"QT_SCREEN_SCALE_FACTORS"_s,
+        u"%1=1;%2=2"_s.arg(Monitors::name(leftOutput), Monitors::name(rightOutput)));
   }
 
   /// Opens a window on a monitor, which then is the one the user works on.
@@ -83,7 +87,7 @@ TEST_F(WindowManagerMonitorsTest, MonitorUnpluggedWhileThePanelIsHidden_IsSurviv
   ASSERT_TRUE(becomesShownOn(rightMonitor, 2)) << place();
   pressShortcut();
   ASSERT_TRUE(becomesHidden());
-  monitors.unplug(u"right"_s);
+  monitors.unplug(rightOutput);
   program().settle();
   showByShortcut();
   EXPECT_TRUE(becomesShownOn(leftMonitor, 1)) << place();
@@ -94,7 +98,7 @@ TEST_F(WindowManagerMonitorsTest, MonitorUnpluggedUnderThePanel_IsSurvived) {
   const auto right = workOn(rightMonitor);
   showByShortcut();
   ASSERT_TRUE(becomesShownOn(rightMonitor, 2)) << place();
-  monitors.unplug(u"right"_s);
+  monitors.unplug(rightOutput);
   EXPECT_TRUE(becomesShownOn(leftMonitor, 1)) << place();
   input().type(u"Build"_s);
   input().tap(XK_Return);
@@ -103,9 +107,9 @@ TEST_F(WindowManagerMonitorsTest, MonitorUnpluggedUnderThePanel_IsSurvived) {
 
 TEST_F(WindowManagerMonitorsTest, MonitorPluggedInAgain_IsUsedAgain) {
   startHidden(commands({u"Build"_s}));
-  monitors.unplug(u"right"_s);
+  monitors.unplug(rightOutput);
   program().settle();
-  monitors.plugIn(u"right"_s, rightMonitor);
+  monitors.plugIn(rightOutput, rightMonitor);
   manager().settle();
   program().settle();
   const auto right = workOn(rightMonitor);

@@ -11,10 +11,11 @@ namespace lanternix {
 /// the behaviour, the test says why and skips.
 class WindowManagerTest : public CompositedTest {
  protected:
-  explicit WindowManagerTest(QSize screenSize = {1280, 900})
+  explicit WindowManagerTest(QSize screenSize = {1280, 900},
+                             VirtualDisplay::Outputs outputs = VirtualDisplay::Outputs::one)
       : CompositedTest(
             chosenBlending() == Blending::compositor ? Compositing::on : Compositing::off,
-            DesktopSession::WithManager::yes, screenSize) {}
+            DesktopSession::WithManager::yes, screenSize, outputs) {}
 
   const WindowManager &manager() { return *session().windowManager(); }
 

@@ -4,8 +4,9 @@ namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
-DesktopSession::DesktopSession(WithManager withManager, WithBus withBus, QSize screenSize)
-    : m_display(screenSize),
+DesktopSession::DesktopSession(WithManager withManager, WithBus withBus, QSize screenSize,
+                               VirtualDisplay::Outputs outputs)
+    : m_display(screenSize, outputs),
       m_windowManager(withManager == WithManager::yes ? std::make_unique<WindowManager>(m_display)
                                                       : nullptr),
       m_bus(withBus == WithBus::yes ? std::make_unique<SessionBus>() : nullptr),

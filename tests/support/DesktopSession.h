@@ -20,7 +20,8 @@ class DesktopSession {
   enum class WithBus { no, yes };
 
   explicit DesktopSession(WithManager withManager = WithManager::yes,
-                          WithBus withBus = WithBus::yes, QSize screenSize = {1280, 900});
+                          WithBus withBus = WithBus::yes, QSize screenSize = {1280, 900},
+                          VirtualDisplay::Outputs outputs = VirtualDisplay::Outputs::one);
 
   ProgramEnvironment &home() { return m_home; }
   const ProgramEnvironment &home() const { return m_home; }

@@ -5,15 +5,11 @@
 #include "support/VirtualDisplay.h"
 #include "support/WaitUntil.h"
 
-#include <utility>
-
 namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString output = u"screen"_s;  // the server's only one
 
 QString sizeText(QSize size) {
   return u"%1x%2"_s.arg(size.width()).arg(size.height());
@@ -21,30 +17,34 @@ QString sizeText(QSize size) {
 
 }  // namespace
 
-void Monitors::plugIn(const QString &name, const QRect &area) {
-  constexpr double millimetresPerPixel = 25.4 / 96;
-  const QString place = u"%1/%2x%3/%4+%5+%6"_s.arg(area.width())
-                            .arg(qRound(area.width() * millimetresPerPixel))
-                            .arg(area.height())
-                            .arg(qRound(area.height() * millimetresPerPixel))
-                            .arg(area.x())
-                            .arg(area.y());
-  const bool isFirst = !std::exchange(m_hasFirst, true);
-  xrandr({u"--setmonitor"_s, isFirst ? u"*"_s + name : name, place, isFirst ? output : u"none"_s});
-  announce();
+QString Monitors::name(int output) {
+  return u"DUMMY%1"_s.arg(output);
 }
 
-void Monitors::unplug(const QString &name) {
-  xrandr({u"--delmonitor"_s, name});
-  announce();
+void Monitors::plugIn(int output, const QRect &area) {
+  const QString monitor = name(output);
+  // A mode of its own, named by the area: which beam draws it how fast is all the same.
+  const QString mode = u"%1-%2x%3"_s.arg(monitor).arg(area.width()).arg(area.height());
+  if (!m_modes.contains(mode)) {
+    QStringList timing{u"--newmode"_s, mode, u"100"_s};
+    for (const int length : {area.width(), area.height()}) {
+      for (int porch = 0; porch < 4; ++porch) {
+        timing.append(QString::number(length + porch));
+      }
+    }
+    xrandr(timing);
+    xrandr({u"--addmode"_s, monitor, mode});
+    xrandr({u"--query"_s});  // by which the server finds the output connected
+    m_modes.append(mode);
+  }
+  const QStringList rank = output == 0 ? QStringList{u"--primary"_s} : QStringList();
+  xrandr(QStringList{u"--fb"_s, sizeText(m_display.size()), u"--output"_s, monitor, u"--mode"_s,
+                     mode, u"--pos"_s, sizeText(QSize(area.x(), area.y()))} +
+         rank);
 }
 
-/// The server does not tell of a changed division by itself. A real monitor comes and goes with the
-/// circuit that feeds it, and that is what programs listen to.
-void Monitors::announce() {
-  const QString size = sizeText(m_display.size());
-  xrandr({u"--fb"_s, size, u"--output"_s, output, u"--off"_s});
-  xrandr({u"--fb"_s, size, u"--output"_s, output, u"--mode"_s, size});
+void Monitors::unplug(int output) {
+  xrandr({u"--fb"_s, sizeText(m_display.size()), u"--output"_s, name(output), u"--off"_s});
 }
 
 void Monitors::xrandr(const QStringList &arguments) {

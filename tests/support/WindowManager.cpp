@@ -44,11 +44,18 @@ void awaitEventLoop(const XConnection &connection) {
 }  // namespace
 
 Blending chosenBlending() {
-  const QString compositor = qEnvironmentVariable("LANTERNIX_COMPOSITOR");
-  if (compositor == "picom"_L1) {
+  const QString name = qEnvironmentVariable("LANTERNIX_COMPOSITOR", u"none"_s);
+  if (name == "none"_L1) {
+    return Blending::nobody;
+  }
+  if (name == "picom"_L1) {
     return Blending::compositor;
   }
-  return compositor == "own"_L1 ? Blending::windowManager : Blending::nobody;
+  if (name == "own"_L1) {
+    return Blending::windowManager;
+  }
+  throw HarnessError(
+      u"LANTERNIX_COMPOSITOR is \"%1\", which is none of none, picom and own"_s.arg(name));
 }
 
 WindowManager::WindowManager(const VirtualDisplay &display)

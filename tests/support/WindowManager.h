@@ -16,7 +16,8 @@ class VirtualDisplay;
 /// Who blends windows with what is below them while the tests run.
 enum class Blending { nobody, compositor, windowManager };
 
-/// What LANTERNIX_COMPOSITOR says: nobody unless it is "picom" or "own", the window manager itself.
+/// What LANTERNIX_COMPOSITOR says: "none", as also when it is not set, "picom", or "own", the
+/// window manager itself. Throws for any other word.
 Blending chosenBlending();
 
 /// A window manager with a configuration of the harness's own: the one that

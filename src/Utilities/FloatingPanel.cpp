@@ -34,15 +34,14 @@ FloatingPanel::FloatingPanel(WindowSystem &windowSystem)
 
   m_resizePause.setSingleShot(true);
   m_resizePause.setInterval(300ms);
-  connect(&m_resizePause, &QTimer::timeout, this, &FloatingPanel::didEndLiveResize);
+  connect(&m_resizePause, &QTimer::timeout, this, &FloatingPanel::endResizeByManager);
 
   // The native window is made now, so that the first show has only to map it. Whether it can be
   // translucent is settled at its making.
   setAttribute(Qt::WA_TranslucentBackground);
   create();
   m_edgeResizer = std::make_unique<WindowEdgeResizer>(windowSystem, *windowHandle());
-  connect(m_edgeResizer.get(), &WindowEdgeResizer::finished, this,
-          &FloatingPanel::didEndLiveResize);
+  connect(m_edgeResizer.get(), &WindowEdgeResizer::finished, this, &FloatingPanel::endResizeByUser);
   windowHandle()->installEventFilter(this);
   connect(windowHandle(), &QWindow::screenChanged, this, &FloatingPanel::updateShape);
   connect(&windowSystem, &WindowSystem::compositingChanged, this,
@@ -59,8 +58,7 @@ void FloatingPanel::setContentView(std::unique_ptr<QWidget> content) {
 void FloatingPanel::makeKeyAndOrderFront() {
   m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);  // where Qt keeps no positions
   if (!isVisible()) {
-    m_hasBeenSeen = false;
-    m_isInPlace = false;
+    awaitPlace();
     updateShape();  // the screen may have another scale now
     m_windowSystem.preparePanel(*windowHandle());
   }
@@ -101,6 +99,18 @@ void FloatingPanel::closeEvent(QCloseEvent *event) {
 void FloatingPanel::setFrame(const QRect &frame) {
   m_wantedGeometry = frame.marginsAdded(contentsMargins());
   setGeometry(m_wantedGeometry);
+  if (isVisible()) {
+    // The window of a monitor that is gone has kept its size in that monitor's pixels. Qt does not
+    // tell the widget, which then sees no need to ask for the size that it has already.
+    m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);
+    awaitPlace();
+    update();
+  }
+}
+
+void FloatingPanel::awaitPlace() {
+  m_hasBeenSeen = false;
+  m_isInPlace = false;
 }
 
 /// A window manager that puts the window into a frame of its own moves that to its place later, and
@@ -139,7 +149,7 @@ void FloatingPanel::resizeEvent(QResizeEvent *event) {
   if (m_edgeResizer) {  // which comes after the first size
     updateShape();
   }
-  // Before the first picture it is the window manager that fits the window in, not the user.
+  // Before the next picture it is the window manager that fits the window in, not the user.
   if (event->spontaneous() && m_hasBeenSeen && !m_edgeResizer->isResizing()) {
     m_resizePause.start();
   }
@@ -148,12 +158,28 @@ void FloatingPanel::resizeEvent(QResizeEvent *event) {
 void FloatingPanel::hideEvent(QHideEvent * /*event*/) {
   m_isDragged = false;
   if (m_resizePause.isActive()) {
-    m_resizePause.stop();
-    Q_EMIT didEndLiveResize();
+    endResizeByManager();
   }
 }
 
+/// On its way to the size that it was given, a window may pass through others: those are nobody's
+/// wish.
+void FloatingPanel::endResizeByManager() {
+  m_resizePause.stop();
+  if (size() != m_wantedGeometry.size()) {
+    endResizeByUser();
+  }
+}
+
+void FloatingPanel::endResizeByUser() {
+  m_wantedGeometry = geometry();
+  Q_EMIT didEndLiveResize();
+}
+
 void FloatingPanel::updateCompositing() {
+  if (m_resizePause.isActive()) {
+    endResizeByManager();  // before the size is one that is given
+  }
   const bool isOnItsWay = isVisible() && !m_isInPlace;
   const QRect frameBefore =
       isOnItsWay ? m_wantedGeometry.marginsRemoved(contentsMargins()) : frame();

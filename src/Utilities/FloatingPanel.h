@@ -65,14 +65,19 @@ class FloatingPanel : public QWidget {
  private:
   void updateCompositing();
   void updateShape();
+  void awaitPlace();
   void confirmPlace();
+  void endResizeByManager();
+  void endResizeByUser();
 
   WindowSystem &m_windowSystem;
   std::unique_ptr<WindowEdgeResizer> m_edgeResizer;
   /// Runs while a resize that the window manager carries out is under way, which has no end of its
   /// own that a program could see.
   QTimer m_resizePause;
+  /// Since it was shown or given a frame.
   bool m_hasBeenSeen = false;
+  /// What it was given, or resized to by the user.
   QRect m_wantedGeometry;
   /// False until the window manager has brought the shown window to its place and said so: until
   /// then its position may be one that it merely passed.

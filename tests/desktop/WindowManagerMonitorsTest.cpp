@@ -103,6 +103,7 @@ TEST_F(WindowManagerMonitorsTest, MonitorUnpluggedUnderThePanel_IsSurvived) {
   input().type(u"Build"_s);
   input().tap(XK_Return);
   EXPECT_TRUE(becomesMarked(u"Build"_s));
+  EXPECT_EQ(session().home().preference(u"panelWidth"_s), std::nullopt) << "nobody has resized it";
 }
 
 TEST_F(WindowManagerMonitorsTest, MonitorPluggedInAgain_IsUsedAgain) {

@@ -34,13 +34,13 @@ void Monitors::plugIn(int output, const QRect &area) {
     }
     xrandr(timing);
     xrandr({u"--addmode"_s, monitor, mode});
-    xrandr({u"--query"_s});  // by which the server finds the output connected
     m_modes.append(mode);
   }
   const QStringList rank = output == 0 ? QStringList{u"--primary"_s} : QStringList();
   xrandr(QStringList{u"--fb"_s, sizeText(m_display.size()), u"--output"_s, monitor, u"--mode"_s,
                      mode, u"--pos"_s, sizeText(QSize(area.x(), area.y()))} +
          rank);
+  xrandr({u"--query"_s});  // at which the server finds the output connected and tells so
 }
 
 void Monitors::unplug(int output) {

@@ -102,6 +102,43 @@ TEST_F(FloatingPanelTest, HiddenWhileAnEdgeIsHeld_HasBeenResized) {
   EXPECT_EQ(panel.frame().size(), QSize(560, 440));
 }
 
+TEST_F(FloatingPanelTest, ResizedByMeansOfTheWindowManager_SaysSoOnceForEachSize) {
+  QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
+  QCoreApplication::processEvents();
+  panel.windowHandle()->resize(560, 420);
+  panel.windowHandle()->resize(600, 450);
+  ASSERT_TRUE(resized.wait());
+  EXPECT_EQ(resized.count(), 1);
+  panel.windowHandle()->resize(500, 400);  // as it came up
+  ASSERT_TRUE(resized.wait());
+  EXPECT_EQ(resized.count(), 2);
+}
+
+TEST_F(FloatingPanelTest, HiddenRightAfterAResizeByTheWindowManager_SaysSoBefore) {
+  const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
+  QCoreApplication::processEvents();
+  panel.windowHandle()->resize(600, 450);
+  QCoreApplication::processEvents();
+  panel.orderOut();
+  EXPECT_EQ(resized.count(), 1);
+}
+
+// As when a monitor goes: the window keeps its size in the pixels of that one, is given its place
+// on another, and is told of both.
+TEST_F(FloatingPanelTest, GivenAFrameAfterItsWindowGotAnotherSize_DoesNotTakeThatForTheUsers) {
+  const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
+  QCoreApplication::processEvents();
+  panel.windowHandle()->resize(1000, 800);
+  panel.setFrame({10, 20, 500, 400});
+  QCoreApplication::processEvents();
+  EXPECT_EQ(panel.windowHandle()->geometry(), QRect(10, 20, 500, 400));
+  panel.windowHandle()->resize(1000, 800);
+  panel.windowHandle()->resize(500, 400);
+  QCoreApplication::processEvents();
+  panel.orderOut();
+  EXPECT_EQ(resized.count(), 0);
+}
+
 TEST_F(FloatingPanelTest, IsMovedByItsBackground) {
   const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
   drag({250, 200}, {30, 20});

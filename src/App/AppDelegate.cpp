@@ -99,6 +99,7 @@ void AppDelegate::showPanel() {
   }
   m_firstShow.stop();  // it would bring back what may be hidden by then
   placePanel();
+  m_mouseMonitor.setActive(true);  // a press may follow as soon as there is a panel to see
   m_panel->makeKeyAndOrderFront();
   m_appState.setPanelVisible(true);
 }

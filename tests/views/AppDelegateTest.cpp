@@ -17,6 +17,8 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QLineEdit>
 
+#include <functional>
+
 namespace lanternix {
 
 namespace {
@@ -32,6 +34,14 @@ class FakeMouseMonitor final : public GlobalMouseMonitor {
   }
 
   bool isActive = false;
+};
+
+/// Tells when the panel is about to come up.
+class AnnouncingWindowSystem final : public QtWindowSystem {
+ public:
+  void preparePanel(QWindow & /*window*/) override { beforeShow(); }
+
+  std::function<void()> beforeShow = [] {};
 };
 
 class AppDelegateTest : public ViewTest {
@@ -94,7 +104,7 @@ class AppDelegateTest : public ViewTest {
   PathGroup work = group(QStringLiteral("Work"));
   PathItem report = item(QStringLiteral("Report"), work, 0, QStringLiteral("make report"));
   PathItem notes = item(QStringLiteral("Notes"), work, 1, QStringLiteral("edit notes"));
-  QtWindowSystem windowSystem;
+  AnnouncingWindowSystem windowSystem;
   FakeMouseMonitor mouseMonitor;
   NullLoginItem loginItem;
   std::unique_ptr<AppDelegate> delegate;
@@ -316,6 +326,16 @@ TEST_F(AppDelegateTest, APressOutside_HidesThePanel) {
   mouseMonitor.press();
   EXPECT_FALSE(panel()->isVisible());
   EXPECT_FALSE(mouseMonitor.isActive) << "nothing may wake the program while the panel is hidden";
+}
+
+TEST_F(AppDelegateTest, APressOutside_IsWatchedForBeforeThePanelCanBeSeen) {
+  start();
+  delegate->togglePanel();
+  ASSERT_FALSE(mouseMonitor.isActive);
+  bool isWatching = false;
+  windowSystem.beforeShow = [&] { isWatching = mouseMonitor.isActive; };
+  delegate->togglePanel();
+  EXPECT_TRUE(isWatching);
 }
 
 TEST_F(AppDelegateTest, AClosedPanel_IsAHiddenOne) {

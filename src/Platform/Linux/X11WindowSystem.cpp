@@ -61,6 +61,17 @@ QScreen *X11WindowSystem::activeScreen() const {
   return QtWindowSystem::activeScreen();
 }
 
+/// Window managers tell one work area for all monitors together, so that it says nothing of each of
+/// several. Qt knows that, but takes a monitor that is plugged in as a second one for the only one
+/// as long as it reads its work area.
+QRect X11WindowSystem::workArea() const {
+  const QScreen *screen = activeScreen();
+  if (screen == nullptr) {
+    return {};
+  }
+  return QGuiApplication::screens().size() == 1 ? screen->availableGeometry() : screen->geometry();
+}
+
 void X11WindowSystem::noteRequest(const ActivationToken &token) {
   m_startupNotification.begin(token.startupId);
   if (const quint32 time = X11StartupNotification::timeOf(token.startupId)) {

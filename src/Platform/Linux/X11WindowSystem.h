@@ -22,6 +22,7 @@ class X11WindowSystem : public QtWindowSystem {
   X11WindowSystem(const X11Server &server, X11EventTime &eventTime);
 
   QScreen *activeScreen() const override;
+  QRect workArea() const override;
   void noteRequest(const ActivationToken &token) override;
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;

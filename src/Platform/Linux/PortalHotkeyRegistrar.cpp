@@ -39,7 +39,10 @@ PortalHotkeyRegistrar::PortalHotkeyRegistrar(const QDBusConnection &bus,
 }
 
 PortalHotkeyRegistrar::~PortalHotkeyRegistrar() {
+  // What listens goes first: a signal that comes in while the connection is being ended would be
+  // kept by the dead one.
   m_shortcut.reset();
+  m_watcher.removeWatchedService(serviceName);
   QDBusConnection::disconnectFromBus(m_bus.name());
 }
 

@@ -60,6 +60,8 @@ PortalService::PortalService(const QString &busAddress, Settings settings, Knows
 }
 
 PortalService::~PortalService() {
+  // First: a call that comes in while the connection is being ended would be kept by the dead one.
+  m_connection.unregisterObject(objectPath);
   QDBusConnection::disconnectFromBus(m_connectionName);
 }
 

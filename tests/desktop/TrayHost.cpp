@@ -68,6 +68,8 @@ TrayHost::TrayHost(const QString &busAddress, Shows shows)
 }
 
 TrayHost::~TrayHost() {
+  // First: a call that comes in while the connection is being ended would be kept by the dead one.
+  m_connection.unregisterObject(watcherPath);
   QDBusConnection::disconnectFromBus(m_connectionName);
 }
 

@@ -9,6 +9,8 @@
 #include <QtDBus/QDBusMessage>
 #include <QtDBus/QDBusReply>
 
+#include <array>
+
 namespace lanternix {
 
 using namespace Qt::StringLiterals;
@@ -71,6 +73,18 @@ QList<AccessibilityBus::Node> readNodes(const QDBusArgument &argument) {
   return nodes;
 }
 
+/// A signal that programs send, and the name by which the registry is asked for it.
+struct Signal {
+  QString interface;
+  QString member;
+  QString eventName;
+};
+
+const std::array heardSignals{
+    Signal{u"org.a11y.atspi.Event.Object"_s, u"StateChanged"_s, u"object:state-changed"_s},
+    Signal{u"org.a11y.atspi.Event.Object"_s, u"ChildrenChanged"_s, u"object:children-changed"_s},
+    Signal{u"org.a11y.atspi.Event.Window"_s, u"Deactivate"_s, u"window:"_s}};
+
 }  // namespace
 
 AccessibilityBus::AccessibilityBus(const DesktopSession &session)
@@ -82,22 +96,22 @@ AccessibilityBus::AccessibilityBus(const DesktopSession &session)
   if (!m_connection.isConnected()) {
     throw HarnessError(m_connection.lastError().message());
   }
-  listenTo(u"Object"_s, u"StateChanged"_s, u"object:state-changed"_s);
-  listenTo(u"Object"_s, u"ChildrenChanged"_s, u"object:children-changed"_s);
-  listenTo(u"Window"_s, u"Deactivate"_s, u"window:"_s);
+  for (const Signal &signal : heardSignals) {
+    m_connection.connect({}, {}, signal.interface, signal.member, this, SLOT(hear(QDBusMessage)));
+    // Programs send only what the registry has been asked for.
+    call({desktop.service, u"/org/a11y/atspi/registry"_s}, u"org.a11y.atspi.Registry"_s,
+         u"RegisterEvent"_s, {signal.eventName, QStringList(), QString()});
+  }
 }
 
 AccessibilityBus::~AccessibilityBus() {
+  // First: a signal that comes in while the connection is being ended would be kept by the dead
+  // one.
+  for (const Signal &signal : heardSignals) {
+    m_connection.disconnect({}, {}, signal.interface, signal.member, this,
+                            SLOT(hear(QDBusMessage)));
+  }
   QDBusConnection::disconnectFromBus(connectionName);
-}
-
-void AccessibilityBus::listenTo(const QString &kind, const QString &member,
-                                const QString &eventName) {
-  m_connection.connect({}, {}, u"org.a11y.atspi.Event."_s + kind, member, this,
-                       SLOT(hear(QDBusMessage)));
-  // Programs send only what the registry has been asked for.
-  call({desktop.service, u"/org/a11y/atspi/registry"_s}, u"org.a11y.atspi.Registry"_s,
-       u"RegisterEvent"_s, {eventName, QStringList(), QString()});
 }
 
 void AccessibilityBus::hear(const QDBusMessage &signal) {

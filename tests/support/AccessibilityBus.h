@@ -83,7 +83,6 @@ class AccessibilityBus : public QObject {
   void hear(const QDBusMessage &signal);
 
  private:
-  void listenTo(const QString &kind, const QString &member, const QString &eventName);
   QDBusMessage call(const Node &node, const QString &interface, const QString &method,
                     const QVariantList &arguments = {}) const;
   QString property(const Node &node, const QString &name) const;

@@ -21,6 +21,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// Lets the window do what it has been told to. One round of events may leave a control that wants
+/// another size at its old one.
+void settle() {
+  QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+}
+
 void draw(QPainter &painter, QWidget &window, const QPoint &position) {
   painter.drawPixmap(position, window.grab());
 }
@@ -47,7 +54,7 @@ SettingsStage::SettingsStage(const QString &scene) {
   m_window = std::make_unique<SettingsView>(*m_state, m_loginItem, m_fileChooser);
   m_window->move(40, 40);
   m_window->present();
-  QCoreApplication::processEvents();
+  settle();
 }
 
 void SettingsStage::writeBackups() const {
@@ -59,7 +66,7 @@ void SettingsStage::writeBackups() const {
 
 void SettingsStage::showTab(int index) {
   m_window->findChild<SettingsTabStrip *>()->setCurrentIndex(index);
-  QCoreApplication::processEvents();
+  settle();
 }
 
 QAbstractButton &SettingsStage::button(const QString &name) const {
@@ -87,7 +94,7 @@ void SettingsStage::select(const QString &name) {
   QListView &list = listWith(name, row);
   list.setCurrentIndex(list.model()->index(row, 0));
   list.setFocus();
-  QCoreApplication::processEvents();
+  settle();
 }
 
 void SettingsStage::openMenu(const QString &name) {
@@ -96,7 +103,7 @@ void SettingsStage::openMenu(const QString &name) {
   const QPoint place = list.visualRect(list.model()->index(row, 0)).center();
   QContextMenuEvent event(QContextMenuEvent::Mouse, place, list.viewport()->mapToGlobal(place));
   QCoreApplication::sendEvent(list.viewport(), &event);
-  QCoreApplication::processEvents();
+  settle();
 }
 
 void SettingsStage::choose(const QString &entry) {
@@ -113,24 +120,24 @@ void SettingsStage::choose(const QString &entry) {
       action->trigger();
     }
   }
-  QCoreApplication::processEvents();
+  settle();
 }
 
 void SettingsStage::click(const QString &name) {
   button(name).click();
-  QCoreApplication::processEvents();
+  settle();
 }
 
 void SettingsStage::focus(const QString &name) {
   button(name).setFocus(Qt::TabFocusReason);
-  QCoreApplication::processEvents();
+  settle();
 }
 
 void SettingsStage::scrollToEnd() {
   for (auto *area : m_window->findChildren<QScrollArea *>()) {
     area->verticalScrollBar()->setValue(area->verticalScrollBar()->maximum());
   }
-  QCoreApplication::processEvents();
+  settle();
 }
 
 QPixmap SettingsStage::picture() const {

@@ -1,4 +1,5 @@
 #include "Views/Settings/DragPayload.h"
+#include "Views/Style/LanternixStyle.h"
 #include "views/GroupsTabTest.h"
 
 #include <QtCore/QMimeData>
@@ -44,6 +45,9 @@ class GroupsTabDragTest : public GroupsTabTest {
     QDropEvent event(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
     QCoreApplication::sendEvent(list.viewport(), &event);
     return event.isAccepted();
+  }
+  static QPixmap pictureOf(const RecordListView &list, int row) {
+    return list.dragPicture(list.model()->index(row, 0));
   }
   /// Just within the upper or the lower edge of a row.
   static QPoint above(const QListView &list, int row) {
@@ -282,13 +286,39 @@ TEST_F(GroupsTabDragTest, AnotherButton_DragsNothing) {
   QTest::mouseRelease(viewport, Qt::MiddleButton, {}, place + QPoint(0, 50));
 }
 
-TEST_F(GroupsTabDragTest, ThePictureOfADrag_IsTheRow) {
+TEST_F(GroupsTabDragTest, ThePictureOfADrag_IsTheRowsOwn) {
   show();
   click(groupList(), 0);
-  const QModelIndex index = itemList().model()->index(0, 0);
-  const QPixmap picture = itemList().dragPicture(index);
-  EXPECT_EQ(picture.deviceIndependentSize().toSize(), rowRect(itemList(), 0).size());
-  EXPECT_NE(picture.toImage(), itemList().dragPicture(index.siblingAtRow(1)).toImage());
+  const QPixmap picture = pictureOf(itemList(), 0);
+  EXPECT_NE(picture.toImage(), pictureOf(itemList(), 1).toImage());
+  EXPECT_EQ(picture.deviceIndependentSize().height(), rowRect(itemList(), 0).height());
+}
+
+TEST_F(GroupsTabDragTest, ThePictureOfADrag_LeavesMostOfAWideRowInSight) {
+  show();
+  tab->resize(1000, 480);
+  QCoreApplication::processEvents();
+  click(groupList(), 0);
+  ASSERT_GT(rowRect(itemList(), 0).width(), 600);
+  EXPECT_EQ(pictureOf(itemList(), 0).deviceIndependentSize().width(), 220);
+}
+
+TEST_F(GroupsTabDragTest, ThePictureOfADrag_LeavesAQuarterOfANarrowRowInSight) {
+  show();
+  const int row = rowRect(groupList(), 0).width();
+  ASSERT_LE(row, 290);
+  EXPECT_EQ(pictureOf(groupList(), 0).deviceIndependentSize().width(), qRound(row * 0.75));
+}
+
+TEST_F(GroupsTabDragTest, ThePictureOfADrag_IsSeenThroughWhereWindowsAreBlended) {
+  show();
+  const QPoint ground(2, 10);
+  auto &style = *qobject_cast<LanternixStyle *>(QApplication::style());
+  EXPECT_EQ(pictureOf(groupList(), 0).toImage().pixelColor(ground).alpha(), 255);
+  style.setSoftEdges(true);
+  const int alpha = pictureOf(groupList(), 0).toImage().pixelColor(ground).alpha();
+  style.setSoftEdges(false);
+  EXPECT_NEAR(alpha, 0.8 * 255, 1);
 }
 
 }  // namespace lanternix

@@ -34,7 +34,8 @@ class RecordListView : public QListView {
   const std::optional<int> &insertionRow() const { return m_insertionRow; }
   /// The row that would take what is dragged over it.
   const std::optional<QUuid> &dragTargetId() const { return m_dragTargetId; }
-  /// What is seen under the pointer while a row is dragged.
+  /// What is seen under the pointer while a row is dragged: the row, but only so wide that the line
+  /// where it would go is seen beside it, and through it where windows are blended.
   QPixmap dragPicture(const QModelIndex &index) const;
 
  Q_SIGNALS:

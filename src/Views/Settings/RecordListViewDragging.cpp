@@ -2,6 +2,8 @@
 #include "Views/Settings/EdgeScroller.h"
 #include "Views/Settings/RecordListModel.h"
 #include "Views/Settings/RecordListView.h"
+#include "Views/Style/FillStyle.h"
+#include "Views/Style/LanternixStyle.h"
 #include "Views/Style/SystemColors.h"
 
 #include <QtCore/QMimeData>
@@ -17,6 +19,10 @@ namespace lanternix {
 
 namespace {
 
+// A drag's picture is narrower than its row, so that it does not hide where the row would go.
+constexpr int widestPicture = 220;
+constexpr double pictureShare = 0.75;  // of the row
+constexpr float pictureOpacity = 0.8F;
 constexpr double pictureRadius = 6;
 constexpr int lineMargin = 10;
 constexpr double markWidth = 2;
@@ -31,19 +37,25 @@ bool RecordListView::takesOnRow(const QMimeData & /*payload*/) const {
 void RecordListView::dropOnRow(const QMimeData & /*payload*/, const QUuid & /*id*/) {}
 
 QPixmap RecordListView::dragPicture(const QModelIndex &index) const {
-  const QSize size = visualRect(index).size();
-  QPixmap picture(size * devicePixelRatioF());
+  const QSize row = visualRect(index).size();
+  const QRect area(0, 0, std::min(widestPicture, qRound(row.width() * pictureShare)), row.height());
+  QPixmap picture(area.size() * devicePixelRatioF());
   picture.setDevicePixelRatio(devicePixelRatioF());
   picture.fill(Qt::transparent);
   QPainter painter(&picture);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
+  painter.setPen(fillColor(FillStyle::quaternary, palette()));
   painter.setBrush(palette().color(QPalette::Window));
-  painter.drawRoundedRect(QRect({}, size), pictureRadius, pictureRadius);
+  painter.drawRoundedRect(QRectF(area).adjusted(0.5, 0.5, -0.5, -0.5), pictureRadius,
+                          pictureRadius);
   QStyleOptionViewItem option;
   initViewItemOption(&option);
-  option.rect = QRect({}, size);
+  option.rect = area;
   itemDelegate()->paint(&painter, option, index);
+  if (style()->styleHint(LanternixStyle::blendsWindows) != 0) {
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.fillRect(area, withOpacity(Qt::black, pictureOpacity));
+  }
   return picture;
 }
 
@@ -55,8 +67,12 @@ void RecordListView::startDrag(Qt::DropActions actions) {
   }
   auto *drag = new QDrag(this);  // which deletes itself when it is over
   drag->setMimeData(payload.release());
-  drag->setPixmap(dragPicture(index));
-  drag->setHotSpot(m_pressPosition - visualRect(index).topLeft());
+  const QPixmap picture = dragPicture(index);
+  drag->setPixmap(picture);
+  // Held where it was pressed, or by its end.
+  const QPoint pressed = m_pressPosition - visualRect(index).topLeft();
+  const int end = qFloor(picture.deviceIndependentSize().width()) - 1;
+  drag->setHotSpot({std::min(pressed.x(), end), pressed.y()});
   drag->exec(actions, Qt::MoveAction);
 }
 

@@ -156,6 +156,9 @@ QSize LanternixStyle::sizeFromContents(ContentsType type, const QStyleOption *op
 
 int LanternixStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                               QStyleHintReturn *returned) const {
+  if (hint == blendsWindows) {
+    return m_hasSoftEdges ? 1 : 0;
+  }
   switch (hint) {
     case SH_ComboBox_AllowWheelScrolling:
       return 0;  // the wheel is meant for the page under the pointer

@@ -17,12 +17,16 @@ class LanternixStyle : public QProxyStyle {
   Q_OBJECT
 
  public:
+  /// A style hint of the program's own; 0 means no, as of any style that does not know it.
+  static constexpr auto blendsWindows = static_cast<StyleHint>(SH_CustomBase);
+
   LanternixStyle();
 
   /// Whether nothing moves that need not. Views ask by the style hint SH_Widget_Animate.
   void setMotionReduced(bool reduced) { m_isMotionReduced = reduced; }
 
-  /// Whether windows are blended with what is below them. The corners of menus are smooth then.
+  /// Whether windows are blended with what is below them. The corners of menus are smooth then, and
+  /// views ask by the style hint blendsWindows.
   void setSoftEdges(bool soft) { m_hasSoftEdges = soft; }
 
   void polish(QWidget *widget) override;

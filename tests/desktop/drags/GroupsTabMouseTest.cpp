@@ -115,6 +115,25 @@ TEST_F(GroupsTabMouseTest, AnItemDraggedBetweenOthers_GoesThereAndStaysSelected)
   EXPECT_EQ(itemList().insertionRow(), std::nullopt);
 }
 
+TEST_F(GroupsTabMouseTest, ARowTakenByItsFarEnd_IsHeldByTheEndOfItsPicture) {
+  const QPoint farEnd =
+      rowRect(itemList(), 0).center() + QPoint(rowRect(itemList(), 0).width() / 2 - 30, 0);
+  QPoint hotSpot;
+  QSizeF picture;
+  drag(
+      onScreen(itemList(), farEnd), onScreen(itemList(), 2),
+      [&] {
+        const auto *running = tab->findChild<QDrag *>();
+        hotSpot = running->hotSpot();
+        picture = running->pixmap().deviceIndependentSize();
+        return itemList().insertionRow().has_value();
+      },
+      letGo);
+  EXPECT_GT(farEnd.x(), picture.width());
+  EXPECT_EQ(hotSpot.x(), picture.width() - 1);
+  EXPECT_EQ(hotSpot.y(), farEnd.y() - rowRect(itemList(), 0).top());
+}
+
 TEST_F(GroupsTabMouseTest, AGroupDraggedAboveAnother_GoesThere) {
   const QPoint gap = rowRect(groupList(), 0).topLeft() + QPoint(80, 3);
   drag(

@@ -76,6 +76,19 @@ SystemColor colorOf(ItemType type) {
   Q_UNREACHABLE();
 }
 
+QString locationName(ItemType type) {
+  switch (type) {
+    case ItemType::directory:
+    case ItemType::file:
+      return u"Path"_s;
+    case ItemType::link:
+      return u"URL"_s;
+    case ItemType::command:
+      return u"Command"_s;
+  }
+  Q_UNREACHABLE();
+}
+
 QString defectName(ItemType type) {
   switch (type) {
     case ItemType::directory:

@@ -31,6 +31,9 @@ QString systemImage(ItemType type);
 /// The colour of that symbol where it has one of its own.
 SystemColor colorOf(ItemType type);
 
+/// What people call the path of an item of the kind: "Path", "URL", "Command".
+QString locationName(ItemType type);
+
 /// What is wrong with an item of the kind that is not valid, such as "not found".
 QString defectName(ItemType type);
 

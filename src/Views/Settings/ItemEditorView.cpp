@@ -49,19 +49,6 @@ std::unique_ptr<QWidget> makeRow(QLabel *title, QWidget *control, QWidget *butto
   return row;
 }
 
-QString locationTitle(ItemType type) {
-  switch (type) {
-    case ItemType::directory:
-    case ItemType::file:
-      return u"Path"_s;
-    case ItemType::link:
-      return u"URL"_s;
-    case ItemType::command:
-      return u"Command"_s;
-  }
-  Q_UNREACHABLE();
-}
-
 QString lastComponent(const QString &path) {
   QStringView rest = path;
   while (rest.size() > 1 && rest.endsWith(u'/')) {
@@ -138,7 +125,7 @@ void ItemEditorView::chooseType(ItemType type) {
 
 void ItemEditorView::setSelectedType(ItemType type) {
   m_selectedType = type;
-  const QString title = locationTitle(type);
+  const QString title = locationName(type);
   m_pathTitle->setText(title);
   m_path->setAccessibleName(title);
   // A command of several lines is one to the shell, too, and another one in a single line.

@@ -1,8 +1,8 @@
 #include "Views/Settings/AboutTab.h"
 
+#include "Views/Controls/TextColumn.h"
 #include "Views/Style/Symbol.h"
 #include "Views/Style/SystemColors.h"
-#include "Views/Style/TextLabel.h"
 
 #include <QtGui/QLinearGradient>
 #include <QtGui/QPainter>
@@ -38,13 +38,6 @@ class Mark : public QWidget {
   }
 };
 
-void addText(QVBoxLayout &layout, const QString &text, TextStyle style, QFont::Weight weight,
-             FillStyle fill) {
-  auto *label = new TextLabel(text, style, weight, fill);
-  label->setAlignment(Qt::AlignCenter);
-  layout.addWidget(label);
-}
-
 }  // namespace
 
 AboutTab::AboutTab(QWidget *parent) : QWidget(parent) {
@@ -55,12 +48,15 @@ AboutTab::AboutTab(QWidget *parent) : QWidget(parent) {
   layout->addStretch();
   layout->addWidget(new Mark(this), 0, Qt::AlignHCenter);
   auto name = std::make_unique<QVBoxLayout>();
-  name->setSpacing(nameSpacing);
-  addText(*name, u"Lanternix"_s, TextStyle::largeTitle, QFont::Bold, FillStyle::primary);
-  addText(*name, u"Version 1.0.0"_s, TextStyle::subheadline, QFont::Normal, FillStyle::secondary);
+  QVBoxLayout &lines = *name;
+  lines.setSpacing(nameSpacing);
   layout->addLayout(name.release());
-  addText(*layout, u"Quick launcher for directories, files, and links"_s, TextStyle::body,
-          QFont::Normal, FillStyle::primary);
+  TextColumn::addCentered(lines, u"Lanternix"_s, TextStyle::largeTitle, QFont::Bold,
+                          FillStyle::primary);
+  TextColumn::addCentered(lines, u"Version 1.0.0"_s, TextStyle::subheadline, QFont::Normal,
+                          FillStyle::secondary);
+  TextColumn::addCentered(*layout, u"Quick launcher for directories, files, and links"_s,
+                          TextStyle::body, QFont::Normal, FillStyle::primary);
   layout->addStretch();
 }
 

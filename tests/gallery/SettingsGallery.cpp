@@ -6,6 +6,7 @@
 
 #include <QtWidgets/QApplication>
 
+#include <functional>
 #include <vector>
 
 namespace lanternix {
@@ -14,13 +15,15 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// One picture: what it is called, what the store holds, what the user did, and how large the
-/// user's font is beside the usual one.
+using Act = std::function<void(SettingsStage &)>;
+
+/// One picture: what it is called, what the user did, how large the user's font is beside the usual
+/// one, and what the store holds.
 struct SettingsPicture {
   QString name;
-  QString scene;
-  void (*act)(SettingsStage &stage);
+  Act act;
   double fontScale = 1;
+  QString scene = u"recent"_s;
 };
 
 constexpr double largeFont = 1.6;
@@ -29,133 +32,114 @@ constexpr int generalTab = 1;
 constexpr int dataTab = 2;
 constexpr int aboutTab = 3;
 
+/// Shows a tab.
+Act tab(int index) {
+  return [=](SettingsStage &stage) { stage.showTab(index); };
+}
+
+/// Does something with a control of a tab.
+Act tab(int index, void (SettingsStage::*work)(const QString &), const QString &control) {
+  return [=](SettingsStage &stage) {
+    stage.showTab(index);
+    (stage.*work)(control);
+  };
+}
+
+/// Selects a group, and then an item of it.
+Act selection(const QStringList &names) {
+  return [=](SettingsStage &stage) {
+    for (const QString &name : names) {
+      stage.select(name);
+    }
+  };
+}
+
+/// Clicks a button beside a selected group.
+Act button(const QString &group, const QString &name) {
+  return [=](SettingsStage &stage) {
+    stage.select(group);
+    stage.click(name);
+  };
+}
+
 /// Chooses an entry from the menu of an item of the group "Work".
-void chooseFor(SettingsStage &stage, const QString &item, const QString &entry) {
-  stage.select(u"Work"_s);
-  stage.openMenu(item);
-  stage.choose(entry);
+Act choice(const QString &item, const QString &entry) {
+  return [=](SettingsStage &stage) {
+    stage.select(u"Work"_s);
+    stage.openMenu(item);
+    stage.choose(entry);
+  };
 }
 
-void editItem(SettingsStage &stage, const QString &item) {
-  chooseFor(stage, item, u"Edit Item..."_s);
+Act editor(const QString &item) {
+  return choice(item, u"Edit Item..."_s);
 }
 
-void clickInData(SettingsStage &stage, const QString &button) {
-  stage.showTab(dataTab);
-  stage.click(button);
+/// Does the rest in a window as small as it can be.
+Act smallest(const Act &rest) {
+  return [=](SettingsStage &stage) {
+    stage.window().resize(stage.window().minimumSize());
+    rest(stage);
+  };
 }
 
-std::vector<SettingsPicture> tabs() {
+std::vector<SettingsPicture> groupsTab() {
+  const QString longName =
+      u"Everything that has to do with the move to the new house by the harbour"_s;
   return {
-      {u"groups-empty"_s, u"no-groups"_s, [](SettingsStage &) {}},
-      {u"groups-unselected"_s, u"recent"_s, [](SettingsStage &) {}},
-      {u"groups"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.select(u"Home"_s);
-         stage.select(u"Pictures"_s);
-       }},
-      {u"groups-broken"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.select(u"Home"_s);
-         stage.select(u"Old notes"_s);
-       }},
-      {u"groups-long-names"_s, u"long-names"_s,
-       [](SettingsStage &stage) {
-         stage.select(u"Everything that has to do with the move to the new house by the harbour"_s);
-         stage.window().resize(stage.window().minimumSize());
-       }},
-      {u"groups-right-to-left"_s, u"long-names"_s,
-       [](SettingsStage &stage) {
-         stage.select(u"עבודה"_s);
-         stage.select(u"לוח משימות"_s);
-       }},
-      {u"groups-large-font"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.select(u"Home"_s);
-         stage.select(u"Old notes"_s);
-       },
-       largeFont},
-      {u"general-large-font"_s, u"recent"_s,
-       [](SettingsStage &stage) { stage.showTab(generalTab); }, largeFont},
-      {u"data-large-font"_s, u"recent"_s, [](SettingsStage &stage) { stage.showTab(dataTab); },
-       largeFont},
-      {u"groups-without-items"_s, u"recent"_s,
-       [](SettingsStage &stage) { stage.select(u"Someday"_s); }},
-      {u"groups-many"_s, u"many"_s, [](SettingsStage &stage) { stage.select(u"Group 7"_s); }},
-      {u"groups-smallest"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.window().resize(stage.window().minimumSize());
-         stage.select(u"Work"_s);
-       }},
-      {u"general"_s, u"recent"_s, [](SettingsStage &stage) { stage.showTab(generalTab); }},
-      {u"general-recording"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.showTab(generalTab);
-         stage.click(u"Toggle Popup Panel"_s);
-       }},
-      {u"general-focus"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.showTab(generalTab);
-         stage.focus(u"Show Recent Items"_s);
-       }},
-      {u"data"_s, u"recent"_s, [](SettingsStage &stage) { stage.showTab(dataTab); }},
-      {u"data-focus"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.showTab(dataTab);
-         stage.focus(u"Create Backup"_s);
-       }},
-      {u"data-end"_s, u"recent"_s,
+      {u"groups-empty"_s, selection({}), 1, u"no-groups"_s},
+      {u"groups-unselected"_s, selection({})},
+      {u"groups"_s, selection({u"Home"_s, u"Pictures"_s})},
+      {u"groups-broken"_s, selection({u"Home"_s, u"Old notes"_s})},
+      {u"groups-large-font"_s, selection({u"Home"_s, u"Old notes"_s}), largeFont},
+      {u"groups-long-names"_s, smallest(selection({longName})), 1, u"long-names"_s},
+      {u"groups-right-to-left"_s, selection({u"עבודה"_s, u"לוח משימות"_s}), 1, u"long-names"_s},
+      {u"groups-without-items"_s, selection({u"Someday"_s})},
+      {u"groups-many"_s, selection({u"Group 7"_s}), 1, u"many"_s},
+      {u"groups-smallest"_s, smallest(selection({u"Work"_s}))},
+  };
+}
+
+std::vector<SettingsPicture> otherTabs() {
+  return {
+      {u"general"_s, tab(generalTab)},
+      {u"general-large-font"_s, tab(generalTab), largeFont},
+      {u"general-recording"_s, tab(generalTab, &SettingsStage::click, u"Toggle Popup Panel"_s)},
+      {u"general-focus"_s, tab(generalTab, &SettingsStage::focus, u"Show Recent Items"_s)},
+      {u"data"_s, tab(dataTab)},
+      {u"data-large-font"_s, tab(dataTab), largeFont},
+      {u"data-focus"_s, tab(dataTab, &SettingsStage::focus, u"Create Backup"_s)},
+      {u"data-end"_s,
        [](SettingsStage &stage) {
          stage.showTab(dataTab);
          stage.scrollToEnd();
        }},
-      {u"about"_s, u"recent"_s, [](SettingsStage &stage) { stage.showTab(aboutTab); }},
+      {u"about"_s, tab(aboutTab)},
   };
 }
 
 std::vector<SettingsPicture> editorsAndMenus() {
   return {
-      {u"group-new"_s, u"recent"_s, [](SettingsStage &stage) { stage.click(u"Add Group"_s); }},
-      {u"group-edit"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.select(u"Work"_s);
-         stage.click(u"Edit Group"_s);
-       }},
-      {u"group-menu"_s, u"recent"_s, [](SettingsStage &stage) { stage.openMenu(u"Home"_s); }},
-      {u"item-new"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.select(u"Work"_s);
-         stage.click(u"Add Item"_s);
-       }},
-      {u"item-edit"_s, u"recent"_s, [](SettingsStage &stage) { editItem(stage, u"Contract"_s); }},
-      {u"item-edit-command"_s, u"recent"_s,
-       [](SettingsStage &stage) { editItem(stage, u"Deploy to staging"_s); }},
-      {u"item-edit-large-font"_s, u"recent"_s,
-       [](SettingsStage &stage) { editItem(stage, u"Contract"_s); }, largeFont},
-      {u"item-menu"_s, u"recent"_s,
-       [](SettingsStage &stage) { chooseFor(stage, u"Projects"_s, u"Move to Group"_s); }},
+      {u"group-new"_s, [](SettingsStage &stage) { stage.click(u"Add Group"_s); }},
+      {u"group-edit"_s, button(u"Work"_s, u"Edit Group"_s)},
+      {u"group-menu"_s, [](SettingsStage &stage) { stage.openMenu(u"Home"_s); }},
+      {u"item-new"_s, button(u"Work"_s, u"Add Item"_s)},
+      {u"item-edit"_s, editor(u"Contract"_s)},
+      {u"item-edit-command"_s, editor(u"Deploy to staging"_s)},
+      {u"item-edit-large-font"_s, editor(u"Contract"_s), largeFont},
+      {u"item-menu"_s, choice(u"Projects"_s, u"Move to Group"_s)},
   };
 }
 
 std::vector<SettingsPicture> alerts() {
   return {
-      {u"alert-delete-group"_s, u"recent"_s,
-       [](SettingsStage &stage) {
-         stage.select(u"Work"_s);
-         stage.click(u"Delete Group"_s);
-       }},
-      {u"alert-delete-item"_s, u"recent"_s,
-       [](SettingsStage &stage) { chooseFor(stage, u"Contract"_s, u"Delete Item"_s); }},
-      {u"alert-large-font"_s, u"recent"_s,
-       [](SettingsStage &stage) { chooseFor(stage, u"Contract"_s, u"Delete Item"_s); }, largeFont},
-      {u"alert-export"_s, u"recent"_s,
-       [](SettingsStage &stage) { clickInData(stage, u"Export..."_s); }},
-      {u"alert-import"_s, u"recent"_s,
-       [](SettingsStage &stage) { clickInData(stage, u"Import..."_s); }},
-      {u"alert-backup"_s, u"recent"_s,
-       [](SettingsStage &stage) { clickInData(stage, u"Create Backup"_s); }},
-      {u"alert-restore"_s, u"recent"_s,
-       [](SettingsStage &stage) { clickInData(stage, u"Restore"_s); }},
+      {u"alert-delete-group"_s, button(u"Work"_s, u"Delete Group"_s)},
+      {u"alert-delete-item"_s, choice(u"Contract"_s, u"Delete Item"_s)},
+      {u"alert-large-font"_s, choice(u"Contract"_s, u"Delete Item"_s), largeFont},
+      {u"alert-export"_s, tab(dataTab, &SettingsStage::click, u"Export..."_s)},
+      {u"alert-import"_s, tab(dataTab, &SettingsStage::click, u"Import..."_s)},
+      {u"alert-backup"_s, tab(dataTab, &SettingsStage::click, u"Create Backup"_s)},
+      {u"alert-restore"_s, tab(dataTab, &SettingsStage::click, u"Restore"_s)},
   };
 }
 
@@ -168,7 +152,7 @@ int SettingsGallery::draw() {
   int count = 0;
   for (const QString &appearance : {u"light"_s, u"dark"_s}) {
     QApplication::setPalette(appearance == u"dark"_s ? Palettes::dark() : Palettes::light());
-    for (const auto &part : {tabs(), editorsAndMenus(), alerts()}) {
+    for (const auto &part : {groupsTab(), otherTabs(), editorsAndMenus(), alerts()}) {
       for (const SettingsPicture &picture : part) {
         QFont font = usual;
         font.setPointSizeF(usual.pointSizeF() * picture.fontScale);

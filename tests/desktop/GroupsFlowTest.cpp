@@ -19,7 +19,7 @@ TEST_F(GroupsFlowTest, FromAnEmptyPanel_AGroupAndACommandAreMadeAndOpened) {
   input().type(u"Work"_s);
   input().tap(XK_Return);
   requireClosed(groupEditor);
-  EXPECT_TRUE(waitUntil([&] { return storedGroups() == QStringList(u"Work"_s); }));
+  EXPECT_TRUE(becomesStored({u"Work"_s}));
   select(u"Work"_s);
 
   click(button(u"Add Item"_s));
@@ -78,7 +78,7 @@ TEST_F(GroupsFlowTest, ADoubleClick_EditsAndRenamesTheGroup) {
   input().type(u"House"_s);
   input().tap(XK_Return);
   requireClosed(editor);
-  EXPECT_TRUE(waitUntil([&] { return storedGroups() == QStringList{u"Work"_s, u"House"_s}; }));
+  EXPECT_TRUE(becomesStored({u"Work"_s, u"House"_s}));
 }
 
 TEST_F(GroupsFlowTest, AnItemDraggedOntoAGroup_MovesThere) {
@@ -97,7 +97,7 @@ TEST_F(GroupsFlowTest, AnItemDraggedBetweenOthers_GoesThere) {
 TEST_F(GroupsFlowTest, AGroupDraggedAboveAnother_GoesThere) {
   openTwoGroups();
   drag(grip(u"Home"_s), above(u"Work"_s));
-  EXPECT_TRUE(waitUntil([&] { return storedGroups() == QStringList{u"Home"_s, u"Work"_s}; }));
+  EXPECT_TRUE(becomesStored({u"Home"_s, u"Work"_s}));
 }
 
 TEST_F(GroupsFlowTest, Escape_EndsADragAndChangesNothing) {
@@ -192,7 +192,7 @@ TEST_F(GroupsFlowTest, TheQuestionsOtherButton_DeletesTheGroupWithItsItems) {
   tabTo(reader.find(question, u"push button"_s, u"Delete Group"_s));
   input().tap(XK_space);
   requireClosed(question);
-  EXPECT_TRUE(waitUntil([&] { return storedGroups() == QStringList(u"Home"_s); }));
+  EXPECT_TRUE(becomesStored({u"Home"_s}));
   EXPECT_TRUE(waitUntil([&] { return session().home().item(u"Report"_s).isEmpty(); }));
 }
 

@@ -38,9 +38,7 @@ TEST_F(PanelOverSettingsTest, ReturnInAnEditor_OpensTheFirstItemAndTheNextOneSav
   EXPECT_EQ(storedGroups(), QStringList(u"Commands"_s));
   EXPECT_TRUE(reader.isKnown(editor));
   input().tap(XK_Return);
-  EXPECT_TRUE(waitUntil([this] {
-    return storedGroups() == (QStringList{u"Commands"_s, u"Play"_s});
-  }));
+  EXPECT_TRUE(becomesStored({u"Commands"_s, u"Play"_s}));
 }
 
 TEST_F(PanelOverSettingsTest, EscapeOverAQuestion_HidesThePanelAndTheNextOneAnswers) {

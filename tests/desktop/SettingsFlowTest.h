@@ -75,6 +75,9 @@ class SettingsFlowTest : public SettingsWindowTest {
     }
     return {};
   }
+  bool becomesStored(const QStringList &groups) {
+    return waitUntil([&] { return storedGroups() == groups; });
+  }
   bool becomesStored(const QString &group, const QStringList &items) {
     return waitUntil([&] { return storedItems(group) == items; });
   }

@@ -34,7 +34,7 @@ TEST_F(SheetFlowTest, ASecondOpeningOverAnEditor_GivesTheEditorTheKeyboard) {
   input().type(u"me"_s);
   input().tap(XK_Return);
   requireClosed(editor);
-  EXPECT_TRUE(waitUntil([&] { return storedGroups() == QStringList{u"Work"_s, u"Home"_s}; }));
+  EXPECT_TRUE(becomesStored({u"Work"_s, u"Home"_s}));
 }
 
 TEST_F(SheetFlowTest, ASecondOpeningOverAQuestion_GivesTheQuestionTheKeyboard) {

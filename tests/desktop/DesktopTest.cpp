@@ -2,7 +2,6 @@
 
 #include "support/HarnessError.h"
 
-#include <QtCore/QFile>
 
 #include <X11/keysym.h>
 
@@ -73,15 +72,15 @@ QRect DesktopTest::panelGeometry() {
 }
 
 QString DesktopTest::marking(const QString &name) const {
-  return u"mkdir '%1'"_s.arg(m_session.home().path(u"marks-"_s + name));
+  return m_session.home().marking(name);
 }
 
 bool DesktopTest::becomesMarked(const QString &name) const {
-  return waitUntil([&] { return isMarked(name); });
+  return m_session.home().becomesMarked(name);
 }
 
 bool DesktopTest::isMarked(const QString &name) const {
-  return QFile::exists(m_session.home().path(u"marks-"_s + name));
+  return m_session.home().isMarked(name);
 }
 
 SampleGroups DesktopTest::commands(const QStringList &names) const {

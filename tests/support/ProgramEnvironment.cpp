@@ -1,6 +1,7 @@
 #include "support/ProgramEnvironment.h"
 
 #include "support/HarnessError.h"
+#include "support/WaitUntil.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -102,6 +103,18 @@ QJsonObject ProgramEnvironment::item(const QString &name) const {
     }
   }
   return {};
+}
+
+QString ProgramEnvironment::marking(const QString &name) const {
+  return u"mkdir '%1'"_s.arg(path(u"marks-"_s + name));
+}
+
+bool ProgramEnvironment::isMarked(const QString &name) const {
+  return QFile::exists(path(u"marks-"_s + name));
+}
+
+bool ProgramEnvironment::becomesMarked(const QString &name) const {
+  return waitUntil([&] { return isMarked(name); });
 }
 
 QString ProgramEnvironment::installApplication(const QString &identifier,

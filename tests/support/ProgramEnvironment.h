@@ -41,6 +41,13 @@ class ProgramEnvironment {
   /// The first item of the data file with this name; an empty object when there is none.
   QJsonObject item(const QString &name) const;
 
+  /// A command line that leaves a mark named \p name in the home directory.
+  QString marking(const QString &name) const;
+  /// Whether the mark is there now.
+  bool isMarked(const QString &name) const;
+  /// Whether the mark appears.
+  bool becomesMarked(const QString &name) const;
+
   /// Installs an application that writes the arguments it is started with, one a line, to the file
   /// returned, and makes it the default for each of \p mimeTypes ("x-scheme-handler/https",
   /// "inode/directory" ...).

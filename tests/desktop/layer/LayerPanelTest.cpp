@@ -6,7 +6,6 @@
 #include "support/WaitUntil.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 
 #include <gtest/gtest.h>
 #include <utility>
@@ -34,7 +33,9 @@ class LayerPanelTest : public testing::TestWithParam<Compositor> {
   void writeGroups() {
     SampleGroups groups;
     groups.group(u"Commands"_s);
-    groups.command(u"build"_s, marking(u"build"_s)).command(u"deploy"_s, marking(u"deploy"_s));
+    for (const QString &name : {u"build"_s, u"deploy"_s}) {
+      groups.command(name, session->home().marking(name));
+    }
     ProgramEnvironment::write(session->home().dataFile(), groups.json());
   }
 
@@ -49,12 +50,6 @@ class LayerPanelTest : public testing::TestWithParam<Compositor> {
   void showAgain() {
     const auto second = run();
     require(u"the panel"_s, [this] { return isShown(); });
-  }
-
-  QString mark(const QString &name) const { return session->home().path(u"mark-"_s + name); }
-  QString marking(const QString &name) const { return u"mkdir '%1'"_s.arg(mark(name)); }
-  bool becomesMarked(const QString &name) const {
-    return waitUntil([&] { return QFile::exists(mark(name)); });
   }
 
   QRect frame() const { return panelOnScreen(session->picture(), LayerSession::screenSize); }
@@ -161,9 +156,9 @@ TEST_P(LayerPanelTest, Panel_HasTheKeyboardAtOnce) {
   input().type(u"dep"_s);
   savePicture(u"search"_s);
   input().tap(KEY_ENTER);
-  EXPECT_TRUE(becomesMarked(u"deploy"_s));
+  EXPECT_TRUE(session->home().becomesMarked(u"deploy"_s));
   EXPECT_TRUE(becomesHidden());
-  EXPECT_FALSE(QFile::exists(mark(u"build"_s)));
+  EXPECT_FALSE(session->home().isMarked(u"build"_s));
 }
 
 TEST_P(LayerPanelTest, HiddenAndShownAgain_ThePanelStandsThereWithTheKeyboard) {
@@ -176,7 +171,7 @@ TEST_P(LayerPanelTest, HiddenAndShownAgain_ThePanelStandsThereWithTheKeyboard) {
   }
   input().type(u"bui"_s);
   input().tap(KEY_ENTER);
-  EXPECT_TRUE(becomesMarked(u"build"_s));
+  EXPECT_TRUE(session->home().becomesMarked(u"build"_s));
 }
 
 TEST_P(LayerPanelTest, Background_MovesThePanel) {

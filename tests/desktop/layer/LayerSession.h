@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/layer/WaylandInput.h"
+#include "desktop/wayland/WaylandInput.h"
 #include "support/ChildProcess.h"
 #include "support/ProgramEnvironment.h"
 #include "support/SessionBus.h"

@@ -1,4 +1,4 @@
-#include "desktop/layer/InputProtocols.h"
+#include "desktop/wayland/InputProtocols.h"
 
 #include <array>
 #include <wayland-client.h>

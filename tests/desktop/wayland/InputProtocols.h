@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QtTypes>
+#include <QtCore/QtGlobal>
 
 struct wl_interface;
 

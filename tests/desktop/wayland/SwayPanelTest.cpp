@@ -15,14 +15,14 @@ TEST_F(SwayPanelTest, Start_TakesTheServerForXProgramsAndShowsThePanelInTheMiddl
   savePicture(u"sway-panel"_s);
   EXPECT_EQ((*panel())["shell"_L1].toString(), u"xwayland"_s);
   // Sway puts every floating window of an X program there, wherever that wants to be.
-  const QPoint offset = panelGeometry().center() - QRect(0, 0, 1280, 800).center();
+  const QPoint offset = panelGeometry().center() - QRect({}, SwaySession::screenSize).center();
   EXPECT_LE(offset.manhattanLength(), 2);
 }
 
 TEST_F(SwayPanelTest, WhatTheProgramStarts_DoesNotInheritThatChoice) {
   startProgram();
-  keyboard().type(u"surr"_s);
-  keyboard().tap(KEY_ENTER);
+  input().type(u"surr"_s);
+  input().tap(KEY_ENTER);
   ASSERT_TRUE(waitUntil([this] { return QFile::exists(environmentFile()); }));
   const QByteArray environment = ProgramEnvironment::read(environmentFile()).value_or("");
   EXPECT_FALSE(environment.contains("QT_QPA_PLATFORM"));
@@ -35,7 +35,7 @@ TEST_F(SwayPanelTest, UsersOwnChoiceOfTheWindowSystem_Stands) {
   launch();
   // The panel is no window of sway's where it can be a surface of another kind.
   require(u"the settings"_s, [this] {
-    keyboard().tap(KEY_COMMA, {KEY_LEFTCTRL});
+    input().tap(KEY_COMMA, {KEY_LEFTCTRL});
     return settings().has_value();
   });
   EXPECT_EQ((*settings())["shell"_L1].toString(), u"xdg_shell"_s);
@@ -45,12 +45,12 @@ TEST_F(SwayPanelTest, TypedLettersFind_ReturnOpens) {
   startHidden();
   pressShortcut();
   ASSERT_TRUE(becomesShown());
-  keyboard().type(u"dep"_s);
+  input().type(u"dep"_s);
   savePicture(u"sway-search"_s);
-  keyboard().tap(KEY_ENTER);
-  EXPECT_TRUE(becomesMarked(u"deploy"_s));
+  input().tap(KEY_ENTER);
+  EXPECT_TRUE(session->home().becomesMarked(u"deploy"_s));
   EXPECT_TRUE(becomesHidden());
-  EXPECT_FALSE(QFile::exists(mark(u"build"_s)));
+  EXPECT_FALSE(session->home().isMarked(u"build"_s));
 }
 
 TEST_F(SwayPanelTest, PressOnAnotherWindow_HidesThePanel) {
@@ -81,15 +81,15 @@ TEST_F(SwayPanelTest, PressOnThePanel_LeavesItShown) {
 
 TEST_F(SwayPanelTest, ContextMenu_LeavesThePanelShown) {
   startProgram();
-  keyboard().tap(KEY_DOWN);
-  keyboard().tap(KEY_F10, {KEY_LEFTSHIFT});
+  input().tap(KEY_DOWN);
+  input().tap(KEY_F10, {KEY_LEFTSHIFT});
   EXPECT_TRUE(staysShown());
   savePicture(u"sway-menu"_s);
 }
 
 TEST_F(SwayPanelTest, SettingsFromThePanel_HaveTheKeyboard) {
   startProgram();
-  keyboard().tap(KEY_COMMA, {KEY_LEFTCTRL});
+  input().tap(KEY_COMMA, {KEY_LEFTCTRL});
   EXPECT_TRUE(waitUntil([this] { return settings() && (*settings())["focused"_L1].toBool(); }));
   EXPECT_TRUE(becomesHidden());
   savePicture(u"sway-settings"_s);

@@ -6,7 +6,6 @@
 #include <QtCore/QFile>
 #include <QtCore/QJsonArray>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QPoint>
 #include <QtCore/QProcess>
 
 #include <utility>
@@ -38,8 +37,10 @@ SwaySession::SwaySession(const QString &configuration) : m_sway(u"sway"_s, u"swa
   const QString names = m_home.path(u"names"_s);
   ProgramEnvironment::write(
       m_home.path(u"sway.conf"_s),
-      u"xwayland enable\noutput HEADLESS-1 resolution 1280x800\ndefault_border none\n"
-      "exec 'printf \"%s %s\" \"$DISPLAY\" \"$WAYLAND_DISPLAY\" > %1.part && mv %1.part %1'\n%2\n"_s
+      u"xwayland enable\noutput HEADLESS-1 resolution %1x%2\ndefault_border none\n"
+      "exec 'printf \"%s %s\" \"$DISPLAY\" \"$WAYLAND_DISPLAY\" > %3.part && mv %3.part %3'\n%4\n"_s
+          .arg(screenSize.width())
+          .arg(screenSize.height())
           .arg(names, configuration)
           .toUtf8());
   QProcessEnvironment environment = m_home.variables();
@@ -49,7 +50,7 @@ SwaySession::SwaySession(const QString &configuration) : m_sway(u"sway"_s, u"swa
   environment.insert(u"SWAYSOCK"_s, ipcSocket());
   m_sway.start({u"-c"_s, m_home.path(u"sway.conf"_s)}, environment);
   waitForSocketNames();
-  m_keyboard = std::make_unique<VirtualKeyboard>(m_home.path(u"run/"_s + m_waylandDisplay));
+  m_input = std::make_unique<WaylandInput>(m_home.path(u"run/"_s + m_waylandDisplay), screenSize);
 }
 
 void SwaySession::waitForSocketNames() {

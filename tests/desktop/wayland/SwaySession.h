@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/wayland/VirtualKeyboard.h"
+#include "desktop/wayland/WaylandInput.h"
 #include "support/ChildProcess.h"
 #include "support/ProgramEnvironment.h"
 #include "support/SessionBus.h"
@@ -13,14 +13,17 @@
 namespace lanternix {
 
 /// A session of the compositor sway on a screen that is only memory, with a server for X programs,
-/// a bus, a home directory and a keyboard. Nothing moves in it: windows come and go at once.
+/// a bus, a home directory, a keyboard and a mouse. Nothing moves in it: windows come and go at
+/// once.
 class SwaySession {
  public:
   /// \p configuration are lines of sway's configuration beside the session's own.
   explicit SwaySession(const QString &configuration = {});
 
+  static constexpr QSize screenSize{1280, 800};
+
   ProgramEnvironment &home() { return m_home; }
-  VirtualKeyboard &keyboard() { return *m_keyboard; }
+  WaylandInput &input() { return *m_input; }
   SessionBus &bus() { return m_bus; }
   const QString &displayName() const { return m_displayName; }
   QString ipcSocket() const { return m_home.path(QStringLiteral("run/sway.sock")); }
@@ -30,7 +33,7 @@ class SwaySession {
 
   /// Runs one of sway's commands; throws when sway refuses it.
   void command(const QString &line) const;
-  /// Presses and releases the left button there.
+  /// Presses and releases the left button there, as slowly as sway takes commands.
   void click(QPoint position) const;
 
   /// The window with this title as sway describes it, while it is on the screen.
@@ -48,7 +51,7 @@ class SwaySession {
   ChildProcess m_sway;
   QString m_displayName;
   QString m_waylandDisplay;
-  std::unique_ptr<VirtualKeyboard> m_keyboard;
+  std::unique_ptr<WaylandInput> m_input;
 };
 
 }  // namespace lanternix

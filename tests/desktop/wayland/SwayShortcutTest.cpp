@@ -53,15 +53,15 @@ TEST_F(SwayShortcutTest, Shortcut_HidesAndShowsThePanel) {
 TEST_F(SwayShortcutTest, HeldShortcut_TogglesOnce) {
   startSession(u"input * repeat_delay 20\ninput * repeat_rate 200"_s);
   startHidden();
-  keyboard().press(KEY_LEFTMETA);
-  keyboard().press(KEY_LEFTSHIFT);
-  keyboard().press(KEY_SPACE);
+  input().pressKey(KEY_LEFTMETA);
+  input().pressKey(KEY_LEFTSHIFT);
+  input().pressKey(KEY_SPACE);
   ASSERT_TRUE(becomesShown());
   // Long enough for a hundred repeats; each would hide the panel or show it again.
   EXPECT_TRUE(staysShown());
-  keyboard().release(KEY_SPACE);
-  keyboard().release(KEY_LEFTSHIFT);
-  keyboard().release(KEY_LEFTMETA);
+  input().releaseKey(KEY_SPACE);
+  input().releaseKey(KEY_LEFTSHIFT);
+  input().releaseKey(KEY_LEFTMETA);
 }
 
 TEST_F(SwayShortcutTest, ShortcutOfACharacterKey_GoesByItsPosition) {
@@ -69,7 +69,7 @@ TEST_F(SwayShortcutTest, ShortcutOfACharacterKey_GoesByItsPosition) {
   session->home().writePreferences(
       R"ini(globalShortcut="@ByteArray({\"keyCode\":6,\"modifiers\":786432})")ini");
   startHidden();
-  keyboard().tap(KEY_Z, {KEY_LEFTCTRL, KEY_LEFTALT});
+  input().tap(KEY_Z, {KEY_LEFTCTRL, KEY_LEFTALT});
   EXPECT_TRUE(becomesShown());
 }
 

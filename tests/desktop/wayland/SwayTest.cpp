@@ -5,7 +5,6 @@
 #include "support/WindowProbe.h"
 
 #include <QtCore/QDir>
-#include <QtCore/QFile>
 #include <QtCore/QProcess>
 
 namespace lanternix {
@@ -30,7 +29,7 @@ void SwayTest::launch() {
   SampleGroups groups;
   groups.group(u"Commands"_s);
   for (const QString &name : {u"build"_s, u"deploy"_s, u"report"_s}) {
-    groups.command(name, u"mkdir '%1'"_s.arg(mark(name)));
+    groups.command(name, session->home().marking(name));
   }
   groups.command(u"surroundings"_s, u"env > '%1.part'; mv '%1.part' '%1'"_s.arg(environmentFile()));
   ProgramEnvironment::write(session->home().dataFile(), groups.json());
@@ -45,7 +44,7 @@ void SwayTest::startProgram() {
 
 void SwayTest::startHidden() {
   startProgram();
-  keyboard().tap(KEY_ESC);
+  input().tap(KEY_ESC);
   require(u"the panel to hide"_s, [this] { return !isShown(); });
 }
 
@@ -75,10 +74,6 @@ bool SwayTest::staysShown() const {
 void SwayTest::settle() const {
   const auto window = WindowProbe(session->displayName()).find(u"lanternix"_s, u"Lanternix"_s);
   ProgramPing(session->displayName(), window.value()).waitForAnswer();
-}
-
-bool SwayTest::becomesMarked(const QString &name) const {
-  return waitUntil([&] { return QFile::exists(mark(name)); });
 }
 
 QString SwayTest::run(QStringList commandLine) {

@@ -7,7 +7,6 @@
 #include <QtCore/QRect>
 
 #include <gtest/gtest.h>
-#include <linux/input-event-codes.h>
 #include <memory>
 #include <optional>
 
@@ -30,8 +29,8 @@ class SwayTest : public testing::Test {
   /// The same, and hides the panel.
   void startHidden();
 
-  VirtualKeyboard &keyboard() { return session->keyboard(); }
-  void pressShortcut() { keyboard().tap(KEY_SPACE, {KEY_LEFTMETA, KEY_LEFTSHIFT}); }
+  WaylandInput &input() { return session->input(); }
+  void pressShortcut() { input().tap(KEY_SPACE, {KEY_LEFTMETA, KEY_LEFTSHIFT}); }
 
   /// The windows as sway describes them, while they are on the screen.
   std::optional<QJsonObject> panel() const { return session->window(QStringLiteral("Lanternix")); }
@@ -49,10 +48,6 @@ class SwayTest : public testing::Test {
   /// press in between would be too quick for any hand.
   void settle() const;
 
-  QString mark(const QString &name) const {
-    return session->home().path(QStringLiteral("mark-") + name);
-  }
-  bool becomesMarked(const QString &name) const;
   QString environmentFile() const { return session->home().path(QStringLiteral("environment")); }
 
   /// What a program of the session says.

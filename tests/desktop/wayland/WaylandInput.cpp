@@ -1,6 +1,6 @@
-#include "desktop/layer/WaylandInput.h"
+#include "desktop/wayland/WaylandInput.h"
 
-#include "desktop/layer/InputProtocols.h"
+#include "desktop/wayland/InputProtocols.h"
 #include "support/HarnessError.h"
 
 #include <QtCore/QFile>

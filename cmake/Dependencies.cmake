@@ -1,7 +1,7 @@
 # Everything the program and its tests link against, found in one place.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets Svg DBus)
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-shape xcb-xfixes xcb-xinput)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb xcb-shape xcb-sync xcb-xfixes xcb-xinput)
 pkg_check_modules(GIO REQUIRED IMPORTED_TARGET gio-2.0 gio-unix-2.0)
 # For Qt 6 from its sixth version on. Without it, the panel is an ordinary window on Wayland.
 find_package(LayerShellQt 6 QUIET)

@@ -1,4 +1,6 @@
 #include "desktop/DesktopTest.h"
+#include "support/ProgramPing.h"
+#include "support/SuspendedProcess.h"
 
 #include <QtCore/QProcess>
 
@@ -29,6 +31,21 @@ TEST_F(InputMethodTest, AComposedLetter_IsSearchedFor) {
   input().tap(XK_dead_acute);
   input().tap(XK_e);
   input().tap(XK_Return);
+  EXPECT_TRUE(becomesMarked(u"accent"_s));
+  EXPECT_FALSE(isMarked(u"plain"_s));
+}
+
+TEST_F(InputMethodTest, AComposedLetterTypedBeforeThePanelHasTheKeyboard_IsSearchedFor) {
+  input().tap(XK_Escape);
+  ASSERT_TRUE(becomesHidden());
+  {
+    const SuspendedProcess busyManager(session().windowManager()->processId());
+    pressShortcut();
+    ProgramPing(session().displayName(), program().panel()).waitForAnswer();
+    input().tap(XK_dead_acute);
+    input().tap(XK_e);
+    input().tap(XK_Return);
+  }
   EXPECT_TRUE(becomesMarked(u"accent"_s));
   EXPECT_FALSE(isMarked(u"plain"_s));
 }

@@ -68,9 +68,6 @@ TEST_F(WindowManagerFocusTest, Panel_TakesTheKeyboardFromAFullScreenWindow) {
 }
 
 TEST_F(WindowManagerFocusTest, LettersTypedAtOnceOverABusyTerminal_AllReachTheSearch) {
-  if (!isForTheTable()) {
-    GTEST_SKIP() << "a matter of speed, which a loaded machine cannot tell";
-  }
   startHidden(commands({u"Build"_s, u"Deploy"_s}));
   const auto terminal = session().openOtherWindow();
   const BusyScreen screen(session().displayName(), terminal->window());
@@ -81,9 +78,6 @@ TEST_F(WindowManagerFocusTest, LettersTypedAtOnceOverABusyTerminal_AllReachTheSe
 }
 
 TEST_F(WindowManagerFocusTest, LettersTypedAtOnceOverAFullScreenWindow_AllReachTheSearch) {
-  if (!isForTheTable()) {
-    GTEST_SKIP() << "a matter of speed, which a loaded machine cannot tell";
-  }
   startHidden(commands({u"Build"_s, u"Deploy"_s}));
   const auto other = session().openOtherWindow({0, 0, 100, 100}, OtherClient::Shape::fullScreen);
   workIn(*other);

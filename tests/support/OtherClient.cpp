@@ -110,6 +110,20 @@ void OtherClient::letKeyGo(xcb_keysym_t key, quint16 modifiers) {
   m_connection.sync();
 }
 
+bool OtherClient::canTakeKeyboard() {
+  const XReply<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(
+      m_connection,
+      xcb_grab_keyboard(m_connection, 0, m_connection.root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
+                        XCB_GRAB_MODE_ASYNC),
+      nullptr));
+  if (!reply || reply->status != XCB_GRAB_STATUS_SUCCESS) {
+    return false;
+  }
+  xcb_ungrab_keyboard(m_connection, XCB_CURRENT_TIME);
+  m_connection.sync();
+  return true;
+}
+
 void OtherClient::readEvents() {
   m_connection.sync();
   for (XReply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection)); event;

@@ -40,6 +40,9 @@ class OtherClient {
   bool holdKey(xcb_keysym_t key, quint16 modifiers);
   void letKeyGo(xcb_keysym_t key, quint16 modifiers);
 
+  /// Whether this program can take the whole keyboard for itself, which it gives back at once.
+  bool canTakeKeyboard();
+
  private:
   void becomeDock(const QRect &geometry);
   void readEvents();

@@ -33,6 +33,7 @@ class WindowManager {
   /// Returns once it has dealt with everything that happened on the display until now.
   void settle() const;
 
+  qint64 processId() const { return m_process.processId(); }
   /// As its program is called.
   const QString &name() const { return m_recipe.program; }
   /// Whether Alt+Tab walks through the windows.

@@ -28,11 +28,12 @@ std::unique_ptr<HotkeyRegistrar> makeCompositorHotkeyRegistrar() {
 }  // namespace
 
 std::unique_ptr<HotkeyRegistrar> makeHotkeyRegistrar(const X11Server &server,
-                                                     X11EventTime &eventTime) {
+                                                     X11EventTime &eventTime,
+                                                     X11KeyboardHold &keyboardHold) {
   if (server.isXWayland()) {
     return makeWaylandHotkeyRegistrar();
   }
-  return std::make_unique<X11HotkeyRegistrar>(server, eventTime);
+  return std::make_unique<X11HotkeyRegistrar>(server, eventTime, keyboardHold);
 }
 
 std::unique_ptr<HotkeyRegistrar> makeWaylandHotkeyRegistrar() {

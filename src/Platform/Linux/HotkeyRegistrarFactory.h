@@ -6,13 +6,15 @@ namespace lanternix {
 
 class HotkeyRegistrar;
 class X11EventTime;
+class X11KeyboardHold;
 class X11Server;
 
 /// The door to the global shortcut of a program that runs on X: a grab, unless the server is one
 /// for X programs in a Wayland session, where a grab works only while such a program has the
 /// keyboard.
 std::unique_ptr<HotkeyRegistrar> makeHotkeyRegistrar(const X11Server &server,
-                                                     X11EventTime &eventTime);
+                                                     X11EventTime &eventTime,
+                                                     X11KeyboardHold &keyboardHold);
 
 /// The door of a Wayland session: the desktop portal's shortcuts, else sway's, else GNOME's. Where
 /// there is none, one that refuses.

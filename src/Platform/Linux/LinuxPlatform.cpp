@@ -16,6 +16,7 @@
 #include "Platform/Linux/StatusNotifierHost.h"
 #include "Platform/Linux/WaylandWindowSystemFactory.h"
 #include "Platform/Linux/X11EventTime.h"
+#include "Platform/Linux/X11KeyboardHold.h"
 #include "Platform/Linux/X11ModalFocus.h"
 #include "Platform/Linux/X11SelectionWatch.h"
 #include "Platform/Linux/X11Server.h"
@@ -99,10 +100,11 @@ class X11Platform : public LinuxPlatform {
 
   X11Server m_server;
   X11EventTime m_eventTime;
+  X11KeyboardHold m_keyboardHold{m_server};
   const std::unique_ptr<HotkeyRegistrar> m_hotkeyRegistrar =
-      makeHotkeyRegistrar(m_server, m_eventTime);
+      makeHotkeyRegistrar(m_server, m_eventTime, m_keyboardHold);
   const std::unique_ptr<GlobalMouseMonitor> m_mouseMonitor = makeMouseMonitor();
-  X11WindowSystem m_windowSystem{m_server, m_eventTime};
+  X11WindowSystem m_windowSystem{m_server, m_eventTime, m_keyboardHold};
   X11ModalFocus m_modalFocus{m_windowSystem};
 };
 

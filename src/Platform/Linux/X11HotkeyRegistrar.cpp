@@ -3,6 +3,7 @@
 #include "Platform/KeyCodes.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11Keyboard.h"
+#include "Platform/Linux/X11KeyboardHold.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QLoggingCategory>
@@ -28,15 +29,19 @@ quint8 eventType(const xcb_generic_event_t &event) {
 
 }  // namespace
 
-X11HotkeyRegistrar::X11HotkeyRegistrar(const X11Server &server, X11EventTime &eventTime)
+X11HotkeyRegistrar::X11HotkeyRegistrar(const X11Server &server, X11EventTime &eventTime,
+                                       X11KeyboardHold &keyboardHold)
     : m_server(server),
       m_eventTime(eventTime),
+      m_keyboardHold(keyboardHold),
       m_xkbCookie(
           xcb_query_extension(server.connection(), xkbExtension.size(), xkbExtension.data())) {
   // A change of the map comes as a burst of events, which are answered once.
   m_following.setSingleShot(true);
   connect(&m_following, &QTimer::timeout, this, &X11HotkeyRegistrar::followKeyboard);
   QCoreApplication::instance()->installNativeEventFilter(this);
+  // Once there is time for it.
+  QMetaObject::invokeMethod(&m_keyboardHold, &X11KeyboardHold::prepare, Qt::QueuedConnection);
 }
 
 X11HotkeyRegistrar::~X11HotkeyRegistrar() {
@@ -166,7 +171,12 @@ void X11HotkeyRegistrar::handlePress(const xcb_key_press_event_t &event) {
   m_pressTime = event.time;
   const bool isHotkey = std::ranges::find(m_grabs, event.detail, &Grab::keyCode) != m_grabs.end();
   if (isHotkey && !repeats) {
+    // First of all, for the hold begins when this reaches the server.
+    m_keyboardHold.begin(event.time);
     Q_EMIT pressed();
+    // Behind whatever answers the press, from the event loop as well.
+    QMetaObject::invokeMethod(&m_keyboardHold, &X11KeyboardHold::endUnlessPassed,
+                              Qt::QueuedConnection);
   }
 }
 

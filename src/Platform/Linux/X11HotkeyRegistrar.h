@@ -13,14 +13,17 @@ namespace lanternix {
 
 class X11EventTime;
 class X11Keyboard;
+class X11KeyboardHold;
 
 /// Holds the shortcut by key grabs on every root window, one for each state of Caps Lock and Num
-/// Lock, and moves them along when the keyboard map changes.
+/// Lock, and moves them along when the keyboard map changes. With each press, a hold of the
+/// keyboard begins.
 class X11HotkeyRegistrar : public HotkeyRegistrar, public QAbstractNativeEventFilter {
   Q_OBJECT
 
  public:
-  X11HotkeyRegistrar(const X11Server &server, X11EventTime &eventTime);
+  X11HotkeyRegistrar(const X11Server &server, X11EventTime &eventTime,
+                     X11KeyboardHold &keyboardHold);
   ~X11HotkeyRegistrar() override;
 
   bool registerHotkey(quint32 keyCode, quint32 classicModifiers) override;
@@ -51,6 +54,7 @@ class X11HotkeyRegistrar : public HotkeyRegistrar, public QAbstractNativeEventFi
 
   const X11Server &m_server;
   X11EventTime &m_eventTime;
+  X11KeyboardHold &m_keyboardHold;
   xcb_query_extension_cookie_t m_xkbCookie;
   std::optional<quint8> m_xkbEvent;  // none until the answer has been read; 0 without XKB
   std::optional<Hotkey> m_wanted;

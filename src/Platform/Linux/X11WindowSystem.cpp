@@ -2,6 +2,7 @@
 
 #include "Platform/ActivationToken.h"
 #include "Platform/Linux/X11EventTime.h"
+#include "Platform/Linux/X11KeyboardHold.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtGui/QGuiApplication>
@@ -41,8 +42,13 @@ bool comesTrue(Condition condition) {
 
 }  // namespace
 
-X11WindowSystem::X11WindowSystem(const X11Server &server, X11EventTime &eventTime)
-    : m_server(server), m_eventTime(eventTime), m_atoms(server), m_compositor(server, m_atoms) {
+X11WindowSystem::X11WindowSystem(const X11Server &server, X11EventTime &eventTime,
+                                 X11KeyboardHold &keyboardHold)
+    : m_server(server),
+      m_eventTime(eventTime),
+      m_keyboardHold(keyboardHold),
+      m_atoms(server),
+      m_compositor(server, m_atoms) {
   connect(&m_compositor, &X11Compositor::changed, this, &WindowSystem::compositingChanged);
 }
 
@@ -103,12 +109,14 @@ void X11WindowSystem::preparePanel(QWindow &window) {
 /// for the server; a request to show right after it then changes nothing either, and the window
 /// manager takes the hiding for the last word.
 void X11WindowSystem::prepareHiding(QWindow &window) {
+  m_keyboardHold.end();
   const xcb_window_t panel = nativeWindow(window);
   comesTrue([&] { return isViewable(panel) && (isManaged(panel) || !hasWindowManager()); });
   m_startupNotification.end();
 }
 
 void X11WindowSystem::activate(QWindow &window) {
+  m_keyboardHold.passTo(window);
   const xcb_window_t panel = nativeWindow(window);
   if (hasWindowManager()) {
     askForActivation(panel);

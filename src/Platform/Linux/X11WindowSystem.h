@@ -12,6 +12,7 @@
 namespace lanternix {
 
 class X11EventTime;
+class X11KeyboardHold;
 
 /// Speaks to the window manager by the Extended Window Manager Hints, and to the server itself
 /// where there is no window manager.
@@ -19,7 +20,7 @@ class X11WindowSystem : public QtWindowSystem {
   Q_OBJECT
 
  public:
-  X11WindowSystem(const X11Server &server, X11EventTime &eventTime);
+  X11WindowSystem(const X11Server &server, X11EventTime &eventTime, X11KeyboardHold &keyboardHold);
 
   QScreen *activeScreen() const override;
   QRect workArea() const override;
@@ -45,6 +46,7 @@ class X11WindowSystem : public QtWindowSystem {
 
   const X11Server &m_server;
   X11EventTime &m_eventTime;
+  X11KeyboardHold &m_keyboardHold;
   mutable X11Atoms m_atoms;
   X11StartupNotification m_startupNotification{m_server, m_atoms};
   X11Compositor m_compositor;

@@ -1,6 +1,7 @@
 #include "Platform/KeyCodes.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
+#include "Platform/Linux/X11KeyboardHold.h"
 #include "TestDisplay.h"
 #include "support/InputDriver.h"
 #include "support/OtherClient.h"
@@ -64,14 +65,18 @@ class X11HotkeyRegistrarTest : public testing::Test {
   }
 
   bool waitForPresses(int count) {
-    return waitUntil([&] { return presses >= count; });
+    const bool told = waitUntil([&] { return presses >= count; });
+    // Nobody answers the presses here, and what the test does next is not to be kept back.
+    keyboardHold.end();
+    awaitReply(xcb_get_input_focus_reply, server, xcb_get_input_focus(server.connection()));
+    return told;
   }
 
   /// Presses a key that is certainly heard after everything before it, at a later moment.
   void settle() {
     constexpr quint32 f8 = 100;
     X11EventTime markerTime;
-    X11HotkeyRegistrar marker(server, markerTime);
+    X11HotkeyRegistrar marker(server, markerTime, keyboardHold);
     ASSERT_TRUE(marker.registerHotkey(f8, 0));
     quint32 first = 0;
     ASSERT_TRUE(waitUntil([&] {
@@ -83,7 +88,8 @@ class X11HotkeyRegistrarTest : public testing::Test {
 
   X11Server server;
   X11EventTime eventTime;
-  X11HotkeyRegistrar registrar{server, eventTime};
+  X11KeyboardHold keyboardHold{server};
+  X11HotkeyRegistrar registrar{server, eventTime, keyboardHold};
   InputDriver input{testDisplay().name()};
   int presses = 0;
 };

@@ -2,6 +2,7 @@
 #include "Platform/KeyCodes.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
+#include "Platform/Linux/X11KeyboardHold.h"
 #include "Platform/Linux/X11WindowSystem.h"
 #include "TestDisplay.h"
 #include "support/InputDriver.h"
@@ -53,7 +54,8 @@ class X11WindowSystemTest : public testing::Test {
 
   X11Server server;
   X11EventTime eventTime;
-  X11WindowSystem windowSystem{server, eventTime};
+  X11KeyboardHold keyboardHold{server};
+  X11WindowSystem windowSystem{server, eventTime, keyboardHold};
   InputDriver input{testDisplay().name()};
   WindowProbe windows{testDisplay().name()};
   Panel panel;
@@ -237,7 +239,7 @@ TEST_F(X11WindowSystemTest, TimeOfARequest_IsTheEndOfItsStartupId) {
   for (const auto &[id, time] : times) {
     EXPECT_EQ(X11StartupNotification::timeOf(id), time) << id.toStdString();
     X11EventTime fresh;
-    X11WindowSystem(server, fresh).noteRequest({.token = {}, .startupId = id});
+    X11WindowSystem(server, fresh, keyboardHold).noteRequest({.token = {}, .startupId = id});
     EXPECT_EQ(fresh.recent(), time) << id.toStdString();
   }
 }

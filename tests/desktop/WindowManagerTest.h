@@ -22,6 +22,9 @@ class WindowManagerTest : public CompositedTest {
   /// Why the window manager forbids a behaviour, as the table of all of them shows it.
   static std::string because(const QString &reason) { return reason.toStdString(); }
 
+  /// Whether the environment asks for one window manager, as for the table of all of them.
+  static bool isForTheTable() { return qEnvironmentVariableIsSet("LANTERNIX_WINDOW_MANAGER"); }
+
   /// What a hand needs between two keys when it is quick.
   static void waitAsAQuickHand() { std::this_thread::sleep_for(std::chrono::milliseconds(20)); }
 };

@@ -15,6 +15,16 @@ class WindowManagerListsTest : public WindowManagerTest {
     program().settle();
     return session().windows().states(program().panel());
   }
+
+  /// Holds Alt for that many taps on Tab.
+  void switchBy(int steps) {
+    input().press(XK_Alt_L);
+    for (int step = 0; step < steps; ++step) {
+      input().tap(XK_Tab);
+      manager().settle();
+    }
+    input().release(XK_Alt_L);
+  }
 };
 
 const QStringList &expectedStates() {
@@ -58,26 +68,18 @@ TEST_F(WindowManagerListsTest, AltTab_PassesThePanelOver) {
         u"icewm lists every window; its option ignoreQuickSwitch is the user's"_s);
   }
   start(commands({u"Build"_s}));
+  program().settle();  // or the window manager may give the keyboard back to the panel
   const auto one = session().openOtherWindow({20, 500, 200, 200});
   const auto two = session().openOtherWindow({20, 100, 200, 200});
   input().type(u"x"_s);
   ASSERT_TRUE(waitUntil([&] { return two->keys().contains(XK_x); }));
-  // By one, two and three steps in one go: among three, the panel would have its turn.
-  QSet<xcb_window_t> reached;
-  for (int steps = 1; steps <= 3; ++steps) {
-    input().press(XK_Alt_L);
-    for (int step = 0; step < steps; ++step) {
-      input().tap(XK_Tab);
-      manager().settle();
-    }
-    input().release(XK_Alt_L);
-    manager().settle();
-    program().settle();
-    EXPECT_FALSE(panelHasFocus()) << steps;
-    EXPECT_TRUE(waitUntil([&] { return one->hasFocus() || two->hasFocus(); })) << steps;
-    reached.insert(one->hasFocus() ? one->window() : two->window());
-  }
-  EXPECT_EQ(reached.size(), 2) << "the switcher has not switched";
+  switchBy(1);
+  EXPECT_TRUE(waitUntil([&] { return one->hasFocus(); }));
+  EXPECT_FALSE(panelHasFocus());
+  // Between two windows as far as by one step; among three it would lead back to the same one.
+  switchBy(3);
+  EXPECT_TRUE(waitUntil([&] { return two->hasFocus(); }));
+  EXPECT_FALSE(panelHasFocus());
   EXPECT_TRUE(isShown());
 }
 

@@ -18,6 +18,8 @@ class WindowManagerSettingsTest : public WindowManagerTest {
       return window && session().windows().isViewable(*window) &&
              session().windows().hasFocus(*window);
     });
+    // A window manager that gave them the keyboard of its own accord has yet to meet the request.
+    program().settle();
   }
   xcb_window_t settings() {
     return session().windows().find(u"lanternix"_s, u"Lanternix Settings"_s).value();

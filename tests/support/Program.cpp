@@ -25,8 +25,10 @@ void Program::waitForPanel() {
   const bool shown = waitUntil(
       [this] { return !isRunning() || (isPanelShown() && m_session.windows().hasFocus(panel())); });
   if (!shown || !isRunning()) {
-    throw HarnessError(u"the panel was not shown with the keyboard in it; the program said: "_s +
-                       QString::fromUtf8(errors()));
+    const auto what = isRunning() && isPanelShown()
+                          ? u"the panel was shown without the keyboard; the program said: "_s
+                          : u"the panel was not shown; the program said: "_s;
+    throw HarnessError(what + QString::fromUtf8(errors()));
   }
 }
 

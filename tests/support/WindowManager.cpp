@@ -68,7 +68,8 @@ WindowManager::WindowManager(const VirtualDisplay &display)
     m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_bus->address());
   }
   m_process.start(m_recipe.arguments, m_environment);
-  if (!waitUntil([&] { return isManaging() || !m_process.isRunning(); }) ||
+  constexpr std::chrono::seconds startLimit{30};  // KWin has much to read
+  if (!waitUntil([&] { return isManaging() || !m_process.isRunning(); }, startLimit) ||
       !m_process.isRunning()) {
     throw HarnessError(u"%1 did not come up: %2"_s.arg(
         name(), QString::fromUtf8(m_process.output() + m_process.errors())));

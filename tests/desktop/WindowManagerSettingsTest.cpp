@@ -70,10 +70,7 @@ TEST_F(WindowManagerSettingsTest, AltTab_FindsTheSettings) {
   const auto other = session().openOtherWindow({20, 100, 200, 200});
   input().type(u"x"_s);
   ASSERT_TRUE(waitUntil([&] { return other->keys().contains(XK_x); }));
-  input().press(XK_Alt_L);
-  input().tap(XK_Tab);
-  manager().settle();
-  input().release(XK_Alt_L);
+  switchBy(1);
   EXPECT_TRUE(waitUntil([&] { return session().windows().hasFocus(settings()); }));
 }
 

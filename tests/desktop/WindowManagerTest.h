@@ -2,6 +2,7 @@
 
 #include "desktop/CompositedTest.h"
 
+#include <X11/keysym.h>
 #include <thread>
 
 namespace lanternix {
@@ -24,6 +25,28 @@ class WindowManagerTest : public CompositedTest {
 
   /// Whether the environment asks for one window manager, as for the table of all of them.
   static bool isForTheTable() { return qEnvironmentVariableIsSet("LANTERNIX_WINDOW_MANAGER"); }
+
+  /// Holds Alt for that many taps on Tab, each of which the window manager is ready for; but see
+  /// countsSteps(). A first tap that has no effect is done again.
+  void switchBy(int steps) {
+    OtherClient observer(session().displayName());
+    require(QStringLiteral("the keys of the switcher"),
+            [&] { return observer.isKeyTaken(XK_Tab, XCB_MOD_MASK_1); });
+    input().press(XK_Alt_L);
+    require(QStringLiteral("the switcher"), [&] {
+      input().tap(XK_Tab);
+      return waitUntil([&] { return observer.isKeyboardTaken(); }, std::chrono::seconds(1));
+    });
+    for (int step = 1; step < steps; ++step) {
+      manager().settle();
+      input().tap(XK_Tab);
+    }
+    manager().settle();
+    input().release(XK_Alt_L);
+  }
+
+  /// KWin hears of the taps from another program until it has opened its switcher, and misses some.
+  bool countsSteps() { return manager().name() != QStringLiteral("kwin_x11"); }
 
   /// What a hand needs between two keys when it is quick.
   static void waitAsAQuickHand() { std::this_thread::sleep_for(std::chrono::milliseconds(20)); }

@@ -124,6 +124,33 @@ bool OtherClient::canTakeKeyboard() {
   return true;
 }
 
+bool OtherClient::isKeyTaken(xcb_keysym_t key, quint16 modifiers) {
+  xcb_grab_server(m_connection);  // or somebody might be refused what is only tried here
+  const bool isFree = holdKey(key, modifiers);
+  if (isFree) {
+    letKeyGo(key, modifiers);
+  }
+  xcb_ungrab_server(m_connection);
+  m_connection.sync();
+  return !isFree;
+}
+
+/// Keys can be taken for a window that is shown only, but that nobody else has them is looked at
+/// first. Taking them would be in the way even for a moment: who asks next for the time of a key
+/// that came before is refused.
+bool OtherClient::isKeyboardTaken() const {
+  const xcb_window_t hidden = xcb_generate_id(m_connection);
+  xcb_create_window(m_connection, 0, hidden, m_connection.root(), 0, 0, 1, 1, 0,
+                    XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+  const XReply<xcb_grab_keyboard_reply_t> reply(
+      xcb_grab_keyboard_reply(m_connection,
+                              xcb_grab_keyboard(m_connection, 0, hidden, XCB_CURRENT_TIME,
+                                                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                              nullptr));
+  xcb_destroy_window(m_connection, hidden);
+  return reply && reply->status == XCB_GRAB_STATUS_ALREADY_GRABBED;
+}
+
 void OtherClient::readEvents() {
   m_connection.sync();
   for (XReply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection)); event;

@@ -43,6 +43,11 @@ class OtherClient {
   /// Whether this program can take the whole keyboard for itself, which it gives back at once.
   bool canTakeKeyboard();
 
+  /// Whether another program has taken a key combination, or every key for the time being, as a
+  /// switcher of windows does while it is open. Asking gets in nobody's way.
+  bool isKeyTaken(xcb_keysym_t key, quint16 modifiers);
+  bool isKeyboardTaken() const;
+
  private:
   void becomeDock(const QRect &geometry);
   void readEvents();

@@ -23,6 +23,8 @@ const QString toggleCommand =
 
 }  // namespace
 
+GnomeHotkeyRegistrar::GnomeHotkeyRegistrar() : m_isRegistered(GnomeKeyBindings::hasCustom(path)) {}
+
 GnomeHotkeyRegistrar::~GnomeHotkeyRegistrar() {
   release();
 }

@@ -8,12 +8,14 @@ namespace lanternix {
 /// starts a command at a press, which calls the action "toggle" of "org.freedesktop.Application" at
 /// the program's name on the session bus: `pressed` is never emitted here.
 ///
-/// The binding is seen in GNOME's own settings as "Lanternix".
+/// The binding is seen in GNOME's own settings as "Lanternix". One that an earlier run has left,
+/// because it could not end well, counts as this one's: GNOME would go on acting upon it.
 class GnomeHotkeyRegistrar : public HotkeyRegistrar {
   Q_OBJECT
 
  public:
-  using HotkeyRegistrar::HotkeyRegistrar;
+  /// Only where it is available.
+  GnomeHotkeyRegistrar();
   ~GnomeHotkeyRegistrar() override;
 
   /// Whether this session is GNOME's and its settings are installed.
@@ -27,7 +29,8 @@ class GnomeHotkeyRegistrar : public HotkeyRegistrar {
  private:
   void release();
 
-  bool m_isRegistered = false;
+  /// Whether our binding is among GNOME's.
+  bool m_isRegistered;
 };
 
 }  // namespace lanternix

@@ -135,6 +135,10 @@ QString holderOf(const QString &accelerator, const QString &ownPath) {
   return {};
 }
 
+bool hasCustom(const QString &path) {
+  return customPaths(*openSettings(mediaKeys)).contains(path);
+}
+
 bool setCustom(const QString &path, const CustomBinding &binding) {
   const auto custom = openCustom(path);
   const auto write = [&custom](const char *key, const QString &value) {

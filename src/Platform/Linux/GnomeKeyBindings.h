@@ -22,6 +22,9 @@ struct CustomBinding {
   QString accelerator;
 };
 
+/// Whether \p path is in the list of custom bindings.
+bool hasCustom(const QString &path);
+
 /// Writes a custom binding to \p path, and \p path into the list of those. Returns when it is kept.
 /// False when the settings may not be written.
 bool setCustom(const QString &path, const CustomBinding &binding);

@@ -54,6 +54,13 @@ class GnomeHotkeyRegistrarTest : public testing::Test {
     probe.waitForFinished();
   }
 
+  void leaveBindingBehind() {
+    start();
+    registerHotkey(keyK, superShift);
+    probe.kill();
+    probe.waitForFinished();
+  }
+
   QByteArray nextLine() {
     while (!probe.canReadLine()) {
       if (!probe.waitForReadyRead()) {
@@ -152,14 +159,26 @@ TEST_F(GnomeHotkeyRegistrarTest, RefusalAfterARegistration_LeavesNone) {
 }
 
 TEST_F(GnomeHotkeyRegistrarTest, BindingLeftBehindByACrash_IsTakenOver) {
-  start();
-  registerHotkey(keyK, superShift);
-  probe.kill();
-  probe.waitForFinished();
+  leaveBindingBehind();
   ASSERT_EQ(start(), "there");
   EXPECT_EQ(registerHotkey(keyK, superShift), "registered");
   end();
   EXPECT_EQ(paths(), u"@as []"_s);
+}
+
+TEST_F(GnomeHotkeyRegistrarTest, BindingLeftBehindByACrash_GoesWithARefusal) {
+  leaveBindingBehind();
+  ASSERT_EQ(start(), "there");
+  EXPECT_EQ(registerHotkey(KeyCodes::space, superShift), "refused");
+  EXPECT_EQ(paths(), u"@as []"_s);
+}
+
+TEST_F(GnomeHotkeyRegistrarTest, BindingLeftBehindByACrash_IsGivenBackWithoutANewOne) {
+  leaveBindingBehind();
+  ASSERT_EQ(start(), "there");
+  end();
+  EXPECT_EQ(paths(), u"@as []"_s);
+  EXPECT_EQ(ourBinding(), u"''"_s);
 }
 
 TEST_F(GnomeHotkeyRegistrarTest, OtherDesktops_HaveNone) {

@@ -12,6 +12,7 @@ namespace lanternix {
 namespace {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 Q_LOGGING_CATEGORY(hotkeyLog, "lanternix.hotkey", QtWarningMsg)
 
@@ -34,6 +35,12 @@ PortalHotkeyRegistrar::PortalHotkeyRegistrar(const QDBusConnection &bus,
     qCInfo(hotkeyLog) << "The desktop portal does not answer";
     setOffer(Offer::missing);
   });
+  m_pause.setSingleShot(true);
+  m_pause.setInterval(1s);
+  connect(&m_pause, &QTimer::timeout, this, [this] {
+    m_isAskedAgain = true;
+    introduceProgram();  // for which the bus starts a portal
+  });
   m_patience.start();
   introduceProgram();
 }
@@ -42,6 +49,7 @@ PortalHotkeyRegistrar::~PortalHotkeyRegistrar() {
   // What listens goes first: a signal that comes in while the connection is being ended would be
   // kept by the dead one.
   m_shortcut.reset();
+  qDeleteAll(findChildren<PortalShortcut *>());
   m_watcher.removeWatchedService(serviceName);
   QDBusConnection::disconnectFromBus(m_bus.name());
 }
@@ -49,6 +57,7 @@ PortalHotkeyRegistrar::~PortalHotkeyRegistrar() {
 bool PortalHotkeyRegistrar::registerHotkey(quint32 keyCode, quint32 classicModifiers) {
   unregisterHotkey();
   m_trigger = KeyNames::portalTrigger(keyCode, classicModifiers);
+  m_isAskedAgain = false;
   m_isToldRegistered = !m_trigger.isEmpty() && m_offer != Offer::missing;
   askForShortcut();
   return m_isToldRegistered;
@@ -60,18 +69,29 @@ void PortalHotkeyRegistrar::unregisterHotkey() {
 }
 
 void PortalHotkeyRegistrar::followOwner(const QString &before, const QString &now) {
+  const bool hadOffer = m_offer == Offer::there;
   if (!before.isEmpty()) {
-    ++m_round;
-    m_isAsking = false;
-    m_portal.clear();
-    if (m_shortcut) {
-      m_shortcut.reset();
-      readLoss(u"the desktop portal has ended"_s);
-    }
+    forgetPortal();
   }
   // A portal that our question has made start has that question already.
   if (!now.isEmpty() && !m_isAsking) {
     introduceProgram();
+  } else if (now.isEmpty() && hadOffer) {
+    m_isAskedAgain ? setOffer(Offer::missing) : m_pause.start();
+  }
+}
+
+void PortalHotkeyRegistrar::forgetPortal() {
+  ++m_round;
+  m_isAsking = false;
+  m_portal.clear();
+  if (m_shortcut) {
+    m_shortcut.reset();
+    readLoss(u"the desktop portal has ended"_s);
+  }
+  if (m_offer == Offer::there) {
+    setOffer(Offer::unknown);
+    m_patience.start();
   }
 }
 
@@ -79,6 +99,7 @@ void PortalHotkeyRegistrar::followOwner(const QString &before, const QString &no
 /// by other means, or not at all.
 void PortalHotkeyRegistrar::introduceProgram() {
   m_isAsking = true;
+  m_pause.stop();
   call(u"org.freedesktop.host.portal.Registry"_s, u"Register"_s, {applicationId, QVariantMap()},
        [this](const QDBusMessage &reply) {
          if (reply.type() == QDBusMessage::ErrorMessage) {
@@ -157,9 +178,13 @@ void PortalHotkeyRegistrar::askForShortcut() {
     return;
   }
   m_shortcut = std::make_unique<PortalShortcut>(PortalPeer{m_bus, m_portal}, m_trigger);
-  connect(m_shortcut.get(), &PortalShortcut::activated, this, &HotkeyRegistrar::pressed);
+  connect(m_shortcut.get(), &PortalShortcut::activated, this, &PortalHotkeyRegistrar::readPress);
   connect(m_shortcut.get(), &PortalShortcut::granted, this, &PortalHotkeyRegistrar::readGrant);
-  connect(m_shortcut.get(), &PortalShortcut::lost, this, &PortalHotkeyRegistrar::readLoss);
+  connect(m_shortcut.get(), &PortalShortcut::ended, this, &PortalHotkeyRegistrar::readEnd);
+  connect(m_shortcut.get(), &PortalShortcut::refused, this, [this](const QString &reason) {
+    dropShortcut();
+    readLoss(reason);
+  });
 }
 
 void PortalHotkeyRegistrar::readGrant() {
@@ -167,6 +192,27 @@ void PortalHotkeyRegistrar::readGrant() {
   if (!std::exchange(m_isToldRegistered, true)) {
     Q_EMIT registrationChanged(true);
   }
+}
+
+void PortalHotkeyRegistrar::readPress() {
+  m_isAskedAgain = false;
+  Q_EMIT pressed();
+}
+
+void PortalHotkeyRegistrar::readEnd() {
+  dropShortcut();
+  if (std::exchange(m_isAskedAgain, true)) {
+    readLoss(u"the desktop has ended it"_s);
+  } else {
+    askForShortcut();
+  }
+}
+
+/// Later, because it is the one that speaks.
+void PortalHotkeyRegistrar::dropShortcut() {
+  m_shortcut->disconnect(this);
+  m_shortcut->setParent(this);
+  m_shortcut.release()->deleteLater();
 }
 
 void PortalHotkeyRegistrar::readLoss(const QString &reason) {

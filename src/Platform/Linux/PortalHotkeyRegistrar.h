@@ -16,7 +16,11 @@ namespace lanternix {
 class PortalShortcut;
 
 /// The shortcut by "org.freedesktop.portal.GlobalShortcuts" of the desktop portal, which asks the
-/// user where the desktop wants that. A portal that starts anew is asked anew.
+/// user where the desktop wants that.
+///
+/// A portal that starts anew is asked anew. One that ends is started again by being asked, and a
+/// shortcut that the desktop ends is asked for again: once each time that the shortcut has served,
+/// so that a desktop in trouble is left alone.
 class PortalHotkeyRegistrar : public HotkeyRegistrar {
   Q_OBJECT
 
@@ -44,6 +48,7 @@ class PortalHotkeyRegistrar : public HotkeyRegistrar {
   using Handler = std::function<void(const QDBusMessage &reply)>;
 
   void followOwner(const QString &before, const QString &now);
+  void forgetPortal();
   void introduceProgram();
   void askForOffer();
   void askForName();
@@ -53,11 +58,16 @@ class PortalHotkeyRegistrar : public HotkeyRegistrar {
   void setOffer(Offer offer);
   void askForShortcut();
   void readGrant();
+  void readPress();
+  void readEnd();
   void readLoss(const QString &reason);
+  void dropShortcut();
 
   QDBusConnection m_bus;
   QDBusServiceWatcher m_watcher;
   QTimer m_patience;
+  /// The time that a portal has to come back by itself.
+  QTimer m_pause;
   Offer m_offer = Offer::unknown;
   /// Counts the portals met, so that a late answer of one that has gone is known for that.
   int m_round = 0;
@@ -68,6 +78,8 @@ class PortalHotkeyRegistrar : public HotkeyRegistrar {
   QString m_trigger;
   /// What the caller knows of the wish.
   bool m_isToldRegistered = false;
+  /// Whether what ends has been asked for again, and has not served since.
+  bool m_isAskedAgain = false;
   std::unique_ptr<PortalShortcut> m_shortcut;
 };
 

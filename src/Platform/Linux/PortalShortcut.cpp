@@ -69,7 +69,7 @@ void PortalShortcut::ask(const QString &method, const QVariantList &arguments,
       std::make_unique<PortalRequest>(m_portal, shortcutsInterface, method, arguments, options);
   // Queued, because what follows an answer may put an end to the request that tells it.
   connect(m_request.get(), &PortalRequest::granted, this, onGranted, Qt::QueuedConnection);
-  connect(m_request.get(), &PortalRequest::refused, this, &PortalShortcut::lost,
+  connect(m_request.get(), &PortalRequest::refused, this, &PortalShortcut::refused,
           Qt::QueuedConnection);
 }
 
@@ -81,7 +81,7 @@ void PortalShortcut::bind(const QVariantMap &session) {
     m_session = handle.toString();
   }
   m_portal.bus.connect(m_portal.name, m_session, sessionInterface, u"Closed"_s, this,
-                       SLOT(readEnd()));
+                       SIGNAL(ended()));
   const QList<Entry> shortcuts{
       {m_identifier,
        {{u"description"_s, u"Show or hide the panel"_s}, {u"preferred_trigger"_s, m_trigger}}}};
@@ -101,7 +101,7 @@ void PortalShortcut::readBound(const QVariantMap &results) {
   if (isOurs || !isList) {
     Q_EMIT granted();
   } else {
-    Q_EMIT lost(u"the user declined"_s);
+    Q_EMIT refused(u"the user declined"_s);
   }
 }
 
@@ -114,10 +114,6 @@ void PortalShortcut::readActivation(const QDBusMessage &signal) {
       arguments[1].toString() == m_identifier) {
     Q_EMIT activated();
   }
-}
-
-void PortalShortcut::readEnd() {
-  Q_EMIT lost(u"the desktop has ended it"_s);
 }
 
 }  // namespace lanternix

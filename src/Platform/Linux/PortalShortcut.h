@@ -20,13 +20,14 @@ class PortalShortcut : public QObject {
 
  Q_SIGNALS:
   void granted();
-  /// It was refused, or taken away later. Nothing comes after this.
-  void lost(const QString &reason);
+  /// The user or the desktop has refused it. Nothing comes after this.
+  void refused(const QString &reason);
+  /// The desktop has taken it away. Nothing comes after this.
+  void ended();
   void activated();
 
  private Q_SLOTS:
   void readActivation(const QDBusMessage &signal);
-  void readEnd();
 
  private:
   void bind(const QVariantMap &session);

@@ -2,6 +2,8 @@
 #include "PortalHotkeyTest.h"
 #include "support/ProgramEnvironment.h"
 
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
 #include <QtDBus/QDBusConnectionInterface>
 #include <QtDBus/QDBusReply>
 
@@ -27,6 +29,28 @@ class PortalHotkeyRegistrarTest : public PortalHotkeyTest {
 
   bool becomesOffered(Offer offer) const {
     return waitUntil([&] { return registrar->offer() == offer; });
+  }
+
+  /// What the bus starts takes its time; the test takes the name in its stead.
+  void letTheBusStartPortals(const QByteArray &command, const QDBusConnection &connection) const {
+    ProgramEnvironment::write(
+        bus.serviceDirectory() + u"/portal.service"_s,
+        "[D-BUS Service]\nName=org.freedesktop.portal.Desktop\nExec=" + command + '\n');
+    require(u"a portal that can be started"_s, [&] {
+      return connection.interface()->activatableServiceNames().value().contains(
+          u"org.freedesktop.portal.Desktop"_s);
+    });
+  }
+
+  /// Ends the portal, and waits until the bus has been made to start another one.
+  void letPortalBeStartedAnew() {
+    const QTemporaryDir directory;
+    const QString sign = directory.filePath(u"started"_s);
+    letTheBusStartPortals("/bin/sh -c 'touch " + sign.toUtf8() + "; sleep 20'", freshConnection());
+    portal.reset();
+    require(u"the portal's start"_s, [&] { return QFile::exists(sign); });
+    EXPECT_EQ(registrar->offer(), Offer::unknown);
+    startPortal();
   }
 
   /// What the portal has been asked for, once it has answered all of it.
@@ -158,13 +182,40 @@ TEST_F(PortalHotkeyRegistrarTest, UnregistrationWhileTheUserIsAsked_TakesTheQues
   }));
 }
 
-TEST_F(PortalHotkeyRegistrarTest, SessionThatTheDesktopEnds_IsToldOnce) {
+TEST_F(PortalHotkeyRegistrarTest, SessionThatTheDesktopEnds_IsAskedForOnceMore) {
   startPortal();
   startProgram();
   registerDefault();
   ASSERT_TRUE(becomesBound(defaultTrigger));
   portal->endSession();
+  ASSERT_TRUE(becomesBound(defaultTrigger));
+  EXPECT_THAT(told, ElementsAre());
+  portal->endSession();
   EXPECT_TRUE(becomesTold({false}));
+  EXPECT_THAT(portal->triggers(), ElementsAre());
+}
+
+TEST_F(PortalHotkeyRegistrarTest, SessionThatTheDesktopEndsAfterAPress_IsAskedForEachTime) {
+  startPortal();
+  startProgram();
+  registerDefault();
+  for (int times = 1; times <= 3; ++times) {
+    ASSERT_TRUE(becomesBound(defaultTrigger));
+    portal->press(u"toggle"_s);
+    ASSERT_TRUE(becomesPressed(times));
+    portal->endSession();
+  }
+  EXPECT_TRUE(becomesBound(defaultTrigger));
+  EXPECT_THAT(told, ElementsAre());
+}
+
+TEST_F(PortalHotkeyRegistrarTest, UserWhoDeclines_IsNotAskedAgainAndTheSessionEnds) {
+  startPortal({.user = User::declines});
+  startProgram();
+  registerDefault();
+  ASSERT_TRUE(becomesTold({false}));
+  callsBefore(u"Close session"_s);
+  EXPECT_EQ(portal->calls().count(u"CreateSession"_s), 1);
 }
 
 TEST_F(PortalHotkeyRegistrarTest, PortalWithoutShortcuts_HasNoneToOffer) {
@@ -193,15 +244,8 @@ TEST_F(PortalHotkeyRegistrarTest, PortalThatComesLate_GrantsWhatWasRefused) {
 }
 
 TEST_F(PortalHotkeyRegistrarTest, PortalThatTheQuestionStarts_IsAskedOnce) {
-  // What the bus starts takes its time; the test takes the name in its stead.
-  ProgramEnvironment::write(bus.serviceDirectory() + u"/portal.service"_s,
-                            "[D-BUS Service]\nName=org.freedesktop.portal.Desktop\n"
-                            "Exec=/bin/sleep 20\n");
   QDBusConnection connection = freshConnection();
-  ASSERT_TRUE(waitUntil([&] {
-    return connection.interface()->activatableServiceNames().value().contains(
-        u"org.freedesktop.portal.Desktop"_s);
-  }));
+  letTheBusStartPortals("/bin/sleep 20", connection);
   registrar = std::make_unique<PortalHotkeyRegistrar>(connection, 1min);
   listenTo(*registrar);
   EXPECT_TRUE(registerDefault());
@@ -225,6 +269,40 @@ TEST_F(PortalHotkeyRegistrarTest, RestartedPortal_IsToldEverythingAgain) {
               ElementsAre(u"Register"_s, u"Get"_s, u"CreateSession"_s, u"BindShortcuts"_s));
   portal->press(u"toggle"_s);
   EXPECT_TRUE(becomesPressed(1));
+}
+
+TEST_F(PortalHotkeyRegistrarTest, PortalThatEnds_IsStartedAnewByTheBus) {
+  startPortal();
+  startProgram();
+  registerDefault();
+  ASSERT_TRUE(becomesBound(defaultTrigger));
+  letPortalBeStartedAnew();
+  EXPECT_TRUE(becomesTold({false, true}));
+  EXPECT_THAT(portal->triggers(), ElementsAre(defaultTrigger));
+  EXPECT_EQ(portal->calls().count(u"Register"_s), 1);
+}
+
+TEST_F(PortalHotkeyRegistrarTest, PortalThatWasStartedAnewAndEndsBeforeAPress_IsLeftAlone) {
+  startPortal();
+  startProgram();
+  registerDefault();
+  ASSERT_TRUE(becomesBound(defaultTrigger));
+  letPortalBeStartedAnew();
+  ASSERT_TRUE(becomesTold({false, true}));
+  portal.reset();
+  EXPECT_TRUE(becomesTold({false, true, false}));
+  EXPECT_EQ(registrar->offer(), Offer::missing);
+}
+
+TEST_F(PortalHotkeyRegistrarTest, PortalThatEndsForGood_HasNoneToOffer) {
+  startPortal();
+  startProgram();
+  ASSERT_TRUE(becomesOffered(Offer::there));
+  portal.reset();
+  ASSERT_TRUE(becomesOffered(Offer::unknown));
+  EXPECT_TRUE(registerDefault());
+  EXPECT_TRUE(becomesTold({false}));
+  EXPECT_EQ(registrar->offer(), Offer::missing);
 }
 
 TEST_F(PortalHotkeyRegistrarTest, PortalThatEndsUnasked_IsMetAnewWithoutAShortcut) {

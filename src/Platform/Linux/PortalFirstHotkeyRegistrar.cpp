@@ -6,6 +6,8 @@
 
 namespace lanternix {
 
+using Offer = PortalHotkeyRegistrar::Offer;
+
 PortalFirstHotkeyRegistrar::PortalFirstHotkeyRegistrar(
     std::unique_ptr<PortalHotkeyRegistrar> portal, std::unique_ptr<HotkeyRegistrar> otherwise)
     : m_portal(std::move(portal)), m_otherwise(std::move(otherwise)), m_door(m_portal.get()) {
@@ -24,10 +26,14 @@ void PortalFirstHotkeyRegistrar::listenTo(HotkeyRegistrar &door) {
 
 bool PortalFirstHotkeyRegistrar::registerHotkey(quint32 keyCode, quint32 classicModifiers) {
   m_wanted = Hotkey{keyCode, classicModifiers};
-  if (m_portal->offer() == PortalHotkeyRegistrar::Offer::missing) {
+  if (m_portal->offer() == Offer::missing) {
     m_door = m_otherwise.get();
   }
   m_isToldRegistered = registerAt(*m_door);
+  if (!m_isToldRegistered && m_door != m_portal.get() && m_portal->offer() == Offer::there) {
+    m_door = m_portal.get();
+    m_isToldRegistered = registerAt(*m_door);
+  }
   return m_isToldRegistered;
 }
 
@@ -37,13 +43,20 @@ void PortalFirstHotkeyRegistrar::unregisterHotkey() {
 }
 
 void PortalFirstHotkeyRegistrar::followOffer() {
-  const bool isMissing = m_portal->offer() == PortalHotkeyRegistrar::Offer::missing;
+  const Offer offer = m_portal->offer();
+  if (offer == Offer::unknown) {
+    return;  // the wish waits for the answer where it is
+  }
   const bool isHeldOtherwise = m_door == m_otherwise.get() && m_isToldRegistered;
-  HotkeyRegistrar *door = isMissing || isHeldOtherwise ? m_otherwise.get() : m_portal.get();
+  HotkeyRegistrar *door =
+      offer == Offer::missing || isHeldOtherwise ? m_otherwise.get() : m_portal.get();
   if (door != m_door && m_wanted) {
     m_door->unregisterHotkey();
     m_door = door;
     tell(registerAt(*m_door));
+  }
+  if (m_door == m_portal.get() && offer == Offer::there) {
+    m_otherwise->unregisterHotkey();  // an earlier run may have left something there
   }
 }
 

@@ -11,7 +11,8 @@ class PortalHotkeyRegistrar;
 
 /// The desktop portal's shortcuts where the portal has any, else those of another door. Which of
 /// them it is, is known only when the portal has answered; what has been asked for until then moves
-/// to the other door by itself. That one keeps it when a portal comes late, unless it has refused.
+/// to the other door by itself, and so does what a portal had that ends for good. That one keeps it
+/// when a portal comes late, unless it has refused.
 class PortalFirstHotkeyRegistrar : public HotkeyRegistrar {
   Q_OBJECT
 

@@ -15,6 +15,7 @@ class PortalFirstHotkeyRegistrarTest : public PortalHotkeyTest {
   void startProgram() {
     auto portalDoor = std::make_unique<PortalHotkeyRegistrar>(freshConnection(), 1min);
     auto otherDoor = std::make_unique<FakeHotkeyRegistrar>();
+    portalsDoor = portalDoor.get();
     otherwise = otherDoor.get();
     registrar =
         std::make_unique<PortalFirstHotkeyRegistrar>(std::move(portalDoor), std::move(otherDoor));
@@ -26,6 +27,7 @@ class PortalFirstHotkeyRegistrarTest : public PortalHotkeyTest {
     return waitUntil([this] { return otherwise->registered.has_value(); });
   }
 
+  PortalHotkeyRegistrar *portalsDoor = nullptr;
   FakeHotkeyRegistrar *otherwise = nullptr;
   std::unique_ptr<PortalFirstHotkeyRegistrar> registrar;
 };
@@ -90,6 +92,38 @@ TEST_F(PortalFirstHotkeyRegistrarTest, PortalThatComesLate_TakesWhatTheOtherDoor
   startPortal();
   EXPECT_TRUE(becomesTold({false, true}));
   EXPECT_TRUE(becomesBound(u"SHIFT+LOGO+space"_s));
+}
+
+TEST_F(PortalFirstHotkeyRegistrarTest, PortalThatTakesTheWish_EndsWhatTheOtherDoorHasFromBefore) {
+  startPortal();
+  startProgram();
+  otherwise->registered = {keyK, superShift};
+  registerDefault();
+  ASSERT_TRUE(becomesBound(u"SHIFT+LOGO+space"_s));
+  EXPECT_FALSE(otherwise->registered.has_value());
+}
+
+TEST_F(PortalFirstHotkeyRegistrarTest, PortalThatEndsForGood_LeavesTheWishToTheOtherDoor) {
+  startPortal();
+  startProgram();
+  registerDefault();
+  ASSERT_TRUE(becomesBound(u"SHIFT+LOGO+space"_s));
+  portal.reset();
+  EXPECT_TRUE(movesToTheOtherDoor());
+  EXPECT_THAT(told, ElementsAre(false, true));
+}
+
+TEST_F(PortalFirstHotkeyRegistrarTest, ChangeThatTheOtherDoorRefuses_GoesToAPortalThatCameLate) {
+  startProgram();
+  registerDefault();
+  ASSERT_TRUE(movesToTheOtherDoor());
+  startPortal();
+  ASSERT_TRUE(
+      waitUntil([this] { return portalsDoor->offer() == PortalHotkeyRegistrar::Offer::there; }));
+  otherwise->refuses = true;
+  registrar->registerHotkey(keyK, KeyCodes::classicControl);
+  EXPECT_TRUE(becomesBound(u"CTRL+k"_s));
+  EXPECT_FALSE(otherwise->registered.has_value());
 }
 
 TEST_F(PortalFirstHotkeyRegistrarTest, Change_GoesThroughTheSameDoor) {

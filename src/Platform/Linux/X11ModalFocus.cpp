@@ -13,9 +13,11 @@ namespace lanternix {
 namespace {
 
 /// Whether the window manager itself has moved the keyboard, rather than a menu or a key that holds
-/// it for a while.
+/// it for a while. A window that has merely the pointer hears as well when nobody has the keyboard.
 bool isLasting(const xcb_focus_in_event_t &event) {
-  return event.mode == XCB_NOTIFY_MODE_NORMAL || event.mode == XCB_NOTIFY_MODE_WHILE_GRABBED;
+  const bool isMove =
+      event.mode == XCB_NOTIFY_MODE_NORMAL || event.mode == XCB_NOTIFY_MODE_WHILE_GRABBED;
+  return isMove && event.detail != XCB_NOTIFY_DETAIL_POINTER;
 }
 
 /// Whether \p dialog keeps the window with the number \p id from being used.

@@ -46,7 +46,10 @@ bool isStartedByBus() {
 
 }  // namespace
 
-BusSingleInstance::BusSingleInstance() : m_awaitsReasonForStart(isStartedByBus()) {
+BusSingleInstance::BusSingleInstance(std::chrono::milliseconds due) {
+  if (isStartedByBus()) {
+    m_reasonForStart.setRemainingTime(due);
+  }
   new ApplicationAdaptor(*this);  // a child of this
 }
 
@@ -73,7 +76,7 @@ bool BusSingleInstance::claim(const ActivationToken &token) {
 }
 
 void BusSingleInstance::receive(Request request, const ActivationToken &token) {
-  const bool isReasonForStart = std::exchange(m_awaitsReasonForStart, false);
+  const bool isReasonForStart = !std::exchange(m_reasonForStart, {}).hasExpired();
   // It can come before the panel or, from a caller who first asks what can be called, after it.
   const bool meansShowing = isReasonForStart && request == Request::togglePanel;
   Q_EMIT requested(meansShowing ? Request::showPanel : request, token);

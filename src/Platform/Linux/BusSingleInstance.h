@@ -2,6 +2,10 @@
 
 #include "Platform/SingleInstance.h"
 
+#include <QtCore/QDeadlineTimer>
+
+#include <chrono>
+
 namespace lanternix {
 
 /// One program per session bus: whoever owns the name "org.lanternix.Lanternix". Others reach it
@@ -10,7 +14,9 @@ class BusSingleInstance : public SingleInstance {
   Q_OBJECT
 
  public:
-  BusSingleInstance();
+  /// Where the bus has started the program, what for is heard of within \p due; what comes
+  /// later is a request of its own.
+  explicit BusSingleInstance(std::chrono::milliseconds due = std::chrono::seconds(10));
 
   /// Whether there is a session bus to claim the name on.
   static bool isAvailable();
@@ -21,8 +27,8 @@ class BusSingleInstance : public SingleInstance {
   void receive(Request request, const ActivationToken &token);
 
  private:
-  /// Whether the bus has started the program and what for is yet to come.
-  bool m_awaitsReasonForStart;
+  /// Until then, what the bus has started the program for may be yet to come.
+  QDeadlineTimer m_reasonForStart;
 };
 
 }  // namespace lanternix

@@ -1,5 +1,9 @@
 #include "SingleInstanceTest.h"
 
+#include "Platform/ActivationToken.h"
+#include "Platform/Linux/BusSingleInstance.h"
+#include "support/TemporaryVariable.h"
+
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 
@@ -108,6 +112,21 @@ TEST_F(SingleInstanceOnBusTest, BusInTheRuntimeDirectory_ServesWithoutAVariable)
   environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
   expectOneProgram();
   EXPECT_FALSE(QFile::exists(runtimeDirectory + u"/lanternix.lock"_s));
+}
+
+TEST(BusSingleInstanceTest, ToggleLongAfterTheBusHasStartedTheProgram_Toggles) {
+  using Request = SingleInstance::Request;
+  QList<Request> requests;
+  const auto note = [&](Request request) { requests.append(request); };
+  for (const auto due : {std::chrono::milliseconds::max(), std::chrono::milliseconds(0)}) {
+    const TemporaryVariable startedBy("DBUS_STARTER_BUS_TYPE", "session");
+    BusSingleInstance instance(due);
+    QObject::connect(&instance, &SingleInstance::requested, note);
+    instance.receive(Request::togglePanel, {});
+    instance.receive(Request::togglePanel, {});
+  }
+  EXPECT_EQ(requests, QList({Request::showPanel, Request::togglePanel, Request::togglePanel,
+                             Request::togglePanel}));
 }
 
 }  // namespace

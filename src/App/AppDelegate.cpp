@@ -119,14 +119,15 @@ void AppDelegate::followLostScreen() {
 
 void AppDelegate::openSettings() {
   m_firstShow.stop();  // the panel would come up over what was asked for
-  if (m_panel && m_panel->isVisible()) {
-    m_appState.hidePanel();
-  }
   if (!m_settings) {
     m_settings = std::make_unique<SettingsView>(m_appState, m_loginItem, m_fileChooser);
   }
   m_settings->present();
+  // First, because hiding the panel would count as the answer to who asks for the settings.
   m_windowSystem.activate(*m_settings->windowHandle());
+  if (m_panel && m_panel->isVisible()) {
+    m_appState.hidePanel();
+  }
 }
 
 QRect AppDelegate::panelFrame(const QRect &workArea) const {

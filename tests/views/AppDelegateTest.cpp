@@ -1,4 +1,5 @@
 #include "App/AppDelegate.h"
+#include "Platform/ActivationToken.h"
 #include "Platform/GlobalMouseMonitor.h"
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Platform/LoginItem.h"
@@ -18,6 +19,8 @@
 #include <QtWidgets/QLineEdit>
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 namespace lanternix {
 
@@ -42,6 +45,25 @@ class AnnouncingWindowSystem final : public QtWindowSystem {
   void preparePanel(QWindow & /*window*/) override { beforeShow(); }
 
   std::function<void()> beforeShow = [] {};
+};
+
+/// Keeps which window a request was answered by; none by hiding one.
+class AnswerRecorder final : public QtWindowSystem {
+ public:
+  void noteRequest(const ActivationToken & /*token*/) override { m_isAsked = true; }
+  void activate(QWindow &window) override { answer(window.title()); }
+  void prepareHiding(QWindow & /*window*/) override { answer({}); }
+
+  std::optional<QString> answered;
+
+ private:
+  void answer(const QString &title) {
+    if (std::exchange(m_isAsked, false)) {
+      answered = title;
+    }
+  }
+
+  bool m_isAsked = false;
 };
 
 class AppDelegateTest : public ViewTest {
@@ -127,6 +149,18 @@ TEST_F(AppDelegateTest, SettingsOpenedBeforeThePanelShowsItself_KeepItAway) {
   awaitFirstShow();
   EXPECT_FALSE(panel()->isVisible());
   EXPECT_TRUE(settings()->isVisible());
+}
+
+TEST_F(AppDelegateTest, SettingsAskedForOverTheVisiblePanel_AreTheAnswer) {
+  AnswerRecorder recorder;
+  delegate = std::make_unique<AppDelegate>(doors(), recorder, mouseMonitor, loginItem);
+  delegate->applicationDidFinishLaunching();
+  delegate->showPanel();
+  recorder.noteRequest({});
+  delegate->openSettings();
+  EXPECT_EQ(recorder.answered, QStringLiteral("Lanternix Settings"));
+  EXPECT_FALSE(panel()->isVisible());
+  delegate.reset();
 }
 
 TEST_F(AppDelegateTest, ToggleBeforeThePanelShowsItself_ShowsItAndItStays) {

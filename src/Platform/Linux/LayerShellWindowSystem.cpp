@@ -2,6 +2,7 @@
 
 #include "Platform/Linux/WaylandWindowSystemFactory.h"
 
+#include <QtCore/QEvent>
 #include <QtGui/QGuiApplication>
 
 #include <LayerShellQt/Window>
@@ -42,13 +43,27 @@ void LayerShellWindowSystem::closeOn(const QScreen *screen) {
   }
 }
 
-void LayerShellWindowSystem::prepareHiding(QWindow & /*window*/) {
+void LayerShellWindowSystem::prepareHiding(QWindow &window) {
   m_drag.stop();
+  QtWindowSystem::prepareHiding(window);
 }
 
-bool LayerShellWindowSystem::takeDrag(QWindow & /*window*/, Qt::Edges /*edges*/, QPoint position) {
+bool LayerShellWindowSystem::takeDrag(QWindow &window, Qt::Edges /*edges*/, QPoint position) {
   m_pressed = m_position + position;
-  return !m_drag.start();
+  const bool isFollowed = m_drag.start();
+  if (isFollowed) {
+    window.installEventFilter(this);
+  }
+  return !isFollowed;
+}
+
+/// At the end of a drag; until the next one, no motion of the mouse is of interest.
+bool LayerShellWindowSystem::eventFilter(QObject *watched, QEvent *event) {
+  if (event->type() == QEvent::MouseButtonRelease) {
+    m_drag.stop();
+    watched->removeEventFilter(this);
+  }
+  return false;
 }
 
 void LayerShellWindowSystem::setGeometry(QWindow &window, const QRect &geometry) {

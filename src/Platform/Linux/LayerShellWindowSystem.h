@@ -26,6 +26,9 @@ class LayerShellWindowSystem : public QtWindowSystem {
   void setGeometry(QWindow &window, const QRect &geometry) override;
   QPoint pointerPosition(const QMouseEvent &event) const override;
 
+ protected:
+  bool eventFilter(QObject *watched, QEvent *event) override;
+
  private:
   void closeOn(const QScreen *screen);
 

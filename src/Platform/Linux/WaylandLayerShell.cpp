@@ -6,6 +6,7 @@
 #include <QtCore/QLoggingCategory>
 #include <QtGui/QGuiApplication>
 
+#include <poll.h>
 #include <wayland-client.h>
 
 namespace lanternix {
@@ -65,11 +66,9 @@ std::optional<QSize> WaylandLayerShell::usableSize() const {
   wl_proxy_marshal_flags(layerSurface, LayerShellProtocol::setAnchor, nullptr, 1, 0,
                          LayerShellProtocol::everyEdge);
   wl_surface_commit(surface);
-  // Some compositors answer in their next round only.
   using namespace std::chrono_literals;
   const QDeadlineTimer deadline(50ms);
-  while (!size && !deadline.hasExpired() &&
-         wl_display_roundtrip_queue(m_display, m_queue.get()) >= 0) {
+  while (!size && !deadline.hasExpired() && hear(deadline)) {
   }
   wl_proxy_marshal_flags(layerSurface, LayerShellProtocol::destroy, nullptr, 1,
                          WL_MARSHAL_FLAG_DESTROY);
@@ -79,6 +78,24 @@ std::optional<QSize> WaylandLayerShell::usableSize() const {
     return std::nullopt;
   }
   return size;
+}
+
+/// Takes in what the compositor says next. False when it has not said anything by the deadline.
+bool WaylandLayerShell::hear(const QDeadlineTimer &deadline) const {
+  while (wl_display_prepare_read_queue(m_display, m_queue.get()) != 0) {
+    const int heard = wl_display_dispatch_queue_pending(m_display, m_queue.get());
+    if (heard != 0) {
+      return heard > 0;
+    }
+  }
+  wl_display_flush(m_display);
+  pollfd connection{wl_display_get_fd(m_display), POLLIN, 0};
+  if (::poll(&connection, 1, static_cast<int>(deadline.remainingTime())) <= 0) {
+    wl_display_cancel_read(m_display);
+    return false;
+  }
+  return wl_display_read_events(m_display) >= 0 &&
+         wl_display_dispatch_queue_pending(m_display, m_queue.get()) >= 0;
 }
 
 }  // namespace lanternix

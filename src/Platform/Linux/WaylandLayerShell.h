@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 
+class QDeadlineTimer;
 struct wl_compositor;
 
 namespace lanternix {
@@ -24,6 +25,8 @@ class WaylandLayerShell {
 
  private:
   WaylandLayerShell(wl_display *display, wl_compositor *compositor);
+
+  bool hear(const QDeadlineTimer &deadline) const;
 
   wl_display *m_display;
   std::unique_ptr<wl_event_queue, WaylandRelease> m_queue;

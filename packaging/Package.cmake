@@ -37,10 +37,14 @@ set(CPACK_DEBIAN_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # No library asks for what Qt loads by itself: the plug-ins for window systems and for drawings in
-# icon themes. The rest is there on every desktop, and missed only in part where it is not.
+# icon themes. Those for Wayland serve a session that has no X server. The rest is there on every
+# desktop, and missed only in part where it is not.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins, hicolor-icon-theme")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-    "default-dbus-session-bus | dbus-session-bus, libglib2.0-bin, qt6-svg-plugins | libqt6svg6 (<< 6.8), shared-mime-info")
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "at-spi2-core, qt6-wayland")
+    "default-dbus-session-bus | dbus-session-bus, libglib2.0-bin, qt6-svg-plugins | libqt6svg6 (<< 6.8), qt6-wayland, shared-mime-info")
+if(LayerShellQt_FOUND)
+  string(APPEND CPACK_DEBIAN_PACKAGE_RECOMMENDS ", layer-shell-qt")
+endif()
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "at-spi2-core")
 
 include(CPack)

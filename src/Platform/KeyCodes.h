@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QLatin1StringView>
 #include <QtCore/QtGlobal>
 
 #include <optional>
@@ -32,12 +33,18 @@ enum ClassicModifier : quint32 {
 /// How a key is found on the present keyboard.
 struct Key {
   quint32 virtualCode;
-  /// Position: the evdev code (an X key code less 8).
+  /// Position: the evdev code.
   quint32 evdevCode;
   /// The key symbol of a named key (Escape, Return, arrows ...), which is followed wherever the
   /// user has put it; 0 for a character key, which goes by its position whatever the layout.
   quint32 keySymbol;
+  /// The name of its symbol on a keyboard with the layout of the United States, such as
+  /// "bracketleft", which the keyboard libraries of all desktops share.
+  QLatin1StringView name;
 };
+
+/// An X key code is an evdev code plus this.
+constexpr quint32 firstXKeyCode = 8;
 
 /// Every key of the table.
 std::span<const Key> allKeys();

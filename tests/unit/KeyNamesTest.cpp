@@ -27,9 +27,18 @@ TEST(KeyNames, PortalTrigger_WritesModifiersAsThePortalDoes) {
 }
 
 TEST(KeyNames, GnomeAccelerator_WritesModifiersInAngles) {
-  EXPECT_EQ(KeyNames::gnomeAccelerator(space, superShift), u"<Shift><Super>space"_s);
-  EXPECT_EQ(KeyNames::gnomeAccelerator(keyK, allFour), u"<Control><Alt><Shift><Super>k"_s);
-  EXPECT_EQ(KeyNames::gnomeAccelerator(pageUp, classicOption), u"<Alt>Page_Up"_s);
+  EXPECT_EQ(KeyNames::gnomeAccelerators(space, superShift), QStringList{u"<Shift><Super>space"_s});
+  EXPECT_EQ(KeyNames::gnomeAccelerators(f5, allFour),
+            QStringList{u"<Control><Alt><Shift><Super>F5"_s});
+  EXPECT_EQ(KeyNames::gnomeAccelerators(pageUp, classicOption), QStringList{u"<Alt>Page_Up"_s});
+}
+
+TEST(KeyNames, GnomeAccelerator_OfACharacterKey_GoesByItsPosition) {
+  constexpr quint32 digitOne = 18;
+  EXPECT_EQ(KeyNames::gnomeAccelerators(keyK, classicCommand),
+            QStringList({u"<Super>0x2d"_s, u"<Super>k"_s}));
+  EXPECT_EQ(KeyNames::gnomeAccelerators(digitOne, classicControl),
+            QStringList({u"<Control>0x0a"_s, u"<Control>1"_s}));
 }
 
 TEST(KeyNames, SwayBinding_OfANamedKey_GoesByItsSymbol) {
@@ -64,7 +73,7 @@ TEST(KeyNames, ForeignModifierBits_AddNothing) {
 
 TEST(KeyNames, CodeThatNoKeyHas_IsNotNamed) {
   EXPECT_EQ(KeyNames::portalTrigger(noKey, superShift), QString());
-  EXPECT_EQ(KeyNames::gnomeAccelerator(noKey, superShift), QString());
+  EXPECT_EQ(KeyNames::gnomeAccelerators(noKey, superShift), QStringList());
   EXPECT_EQ(KeyNames::swayBinding(noKey, superShift), SwayBinding());
 }
 

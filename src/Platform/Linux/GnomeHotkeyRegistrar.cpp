@@ -35,18 +35,18 @@ bool GnomeHotkeyRegistrar::isAvailable() {
 }
 
 bool GnomeHotkeyRegistrar::registerHotkey(quint32 keyCode, quint32 classicModifiers) {
-  const QString accelerator = KeyNames::gnomeAccelerator(keyCode, classicModifiers);
-  const QString holder =
-      accelerator.isEmpty() ? QString() : GnomeKeyBindings::holderOf(accelerator, path);
+  const QStringList accelerators = KeyNames::gnomeAccelerators(keyCode, classicModifiers);
+  const QString holder = GnomeKeyBindings::holderOf(accelerators, path);
   if (!holder.isEmpty()) {
-    qCInfo(hotkeyLog).noquote() << "GNOME has" << accelerator << "for" << holder;
+    qCInfo(hotkeyLog).noquote() << "GNOME has" << accelerators.join(u" or "_s) << "for" << holder;
   }
-  if (accelerator.isEmpty() || !holder.isEmpty()) {
+  if (accelerators.isEmpty() || !holder.isEmpty()) {
     release();
     return false;
   }
   m_isRegistered = true;  // in part, should the next step fail midway
-  if (!GnomeKeyBindings::setCustom(path, {u"Lanternix"_s, toggleCommand, accelerator})) {
+  if (!GnomeKeyBindings::setCustom(path,
+                                   {u"Lanternix"_s, toggleCommand, accelerators.constFirst()})) {
     qCInfo(hotkeyLog) << "GNOME's key bindings may not be written";
     release();
   }

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <gio/gio.h>
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -76,8 +77,12 @@ bool setCustomPaths(GSettings &settings, const QStringList &paths) {
   return g_settings_set_strv(&settings, customList, pointers.data()) != FALSE;
 }
 
+/// What an accelerator consists of.
+using Parts = QSet<QString>;
+using Wanted = QList<Parts>;
+
 /// The same for two accelerators that mean the same, however they are written.
-QSet<QString> parts(const QString &accelerator) {
+Parts parts(const QString &accelerator) {
   QString lower = accelerator.toLower();
   lower.replace("<primary>"_L1, "<control>"_L1).replace("<ctrl>"_L1, "<control>"_L1);
   lower.replace("<mod1>"_L1, "<alt>"_L1).replace("<mod4>"_L1, "<super>"_L1);
@@ -85,7 +90,7 @@ QSet<QString> parts(const QString &accelerator) {
   return {pieces.begin(), pieces.end()};
 }
 
-bool hasAccelerator(GSettings &settings, const char *key, const QSet<QString> &wanted) {
+bool hasAccelerator(GSettings &settings, const char *key, const Wanted &wanted) {
   const Pointer<GVariant> value(g_settings_get_value(&settings, key));
   QStringList accelerators;
   if (g_variant_is_of_type(value.get(), G_VARIANT_TYPE_STRING_ARRAY) != FALSE) {
@@ -93,11 +98,12 @@ bool hasAccelerator(GSettings &settings, const char *key, const QSet<QString> &w
   } else if (g_variant_is_of_type(value.get(), G_VARIANT_TYPE_STRING) != FALSE) {
     accelerators = {QString::fromUtf8(g_variant_get_string(value.get(), nullptr))};
   }
-  return std::ranges::any_of(
-      accelerators, [&](const QString &accelerator) { return parts(accelerator) == wanted; });
+  return std::ranges::any_of(accelerators, [&](const QString &accelerator) {
+    return wanted.contains(parts(accelerator));
+  });
 }
 
-QString holderInSchema(const char *identifier, const QSet<QString> &wanted) {
+QString holderInSchema(const char *identifier, const Wanted &wanted) {
   const auto found = schema(identifier);
   if (!found) {
     return {};
@@ -118,11 +124,12 @@ bool areInstalled() {
   return schema(mediaKeys) != nullptr && schema(customKey) != nullptr;
 }
 
-QString holderOf(const QString &accelerator, const QString &ownPath) {
-  const QSet<QString> wanted = parts(accelerator);
+QString holderOf(const QStringList &accelerators, const QString &ownPath) {
+  Wanted wanted;
+  std::ranges::transform(accelerators, std::back_inserter(wanted), parts);
   const QStringList paths = customPaths(*openSettings(mediaKeys));
   for (const QString &path : paths) {
-    if (path != ownPath && parts(text(*openCustom(path), "binding")) == wanted) {
+    if (path != ownPath && wanted.contains(parts(text(*openCustom(path), "binding")))) {
       return path;
     }
   }

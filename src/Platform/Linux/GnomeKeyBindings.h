@@ -5,16 +5,16 @@
 namespace lanternix {
 
 /// GNOME's key bindings, as its settings hold them. Accelerators are texts such as
-/// "<Shift><Super>space".
+/// "<Shift><Super>space"; instead of its name a key may be told by its X key code, "<Super>0x2d".
 namespace GnomeKeyBindings {
 
 /// Whether the settings for custom bindings are installed. Without them nothing else here may be
 /// called.
 bool areInstalled();
 
-/// What starts \p accelerator already, of GNOME or of the user, as "schema key" or a custom
+/// What starts one of \p accelerators already, of GNOME or of the user, as "schema key" or a custom
 /// binding's path; empty when nothing does. The custom binding at \p ownPath does not count.
-QString holderOf(const QString &accelerator, const QString &ownPath);
+QString holderOf(const QStringList &accelerators, const QString &ownPath);
 
 struct CustomBinding {
   QString name;

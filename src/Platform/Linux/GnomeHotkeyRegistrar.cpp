@@ -4,6 +4,7 @@
 #include "Platform/Linux/GnomeKeyBindings.h"
 
 #include <QtCore/QLoggingCategory>
+#include <QtCore/QStandardPaths>
 #include <QtCore/QStringList>
 
 namespace lanternix {
@@ -16,9 +17,12 @@ Q_LOGGING_CATEGORY(hotkeyLog, "lanternix.hotkey", QtWarningMsg)
 const QString path =
     u"/org/gnome/settings-daemon/plugins/media-keys/custom-keybindings/lanternix/"_s;
 
-/// Comes with the library that GNOME keeps its settings by, so it is there wherever these are.
+/// A tool of the library that GNOME keeps its settings by; some systems have it in a package of its
+/// own.
+const QString tool = u"gdbus"_s;
 const QString toggleCommand =
-    u"gdbus call --session --dest org.lanternix.Lanternix --object-path /org/lanternix/Lanternix "
+    tool +
+    u" call --session --dest org.lanternix.Lanternix --object-path /org/lanternix/Lanternix "
     "--method org.freedesktop.Application.ActivateAction toggle [] {}"_s;
 
 }  // namespace
@@ -27,11 +31,19 @@ GnomeHotkeyRegistrar::GnomeHotkeyRegistrar() : m_isRegistered(GnomeKeyBindings::
 
 GnomeHotkeyRegistrar::~GnomeHotkeyRegistrar() {
   release();
+  GnomeKeyBindings::flush();
 }
 
 bool GnomeHotkeyRegistrar::isAvailable() {
   const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':');
-  return desktops.contains("GNOME"_L1, Qt::CaseInsensitive) && GnomeKeyBindings::areInstalled();
+  if (!desktops.contains("GNOME"_L1, Qt::CaseInsensitive) || !GnomeKeyBindings::areInstalled()) {
+    return false;
+  }
+  const bool hasTool = !QStandardPaths::findExecutable(tool).isEmpty();
+  if (!hasTool) {
+    qCInfo(hotkeyLog) << "There is no" << tool << "for GNOME to call the program by";
+  }
+  return hasTool;
 }
 
 bool GnomeHotkeyRegistrar::registerHotkey(quint32 keyCode, quint32 classicModifiers) {

@@ -18,7 +18,8 @@ class GnomeHotkeyRegistrar : public HotkeyRegistrar {
   GnomeHotkeyRegistrar();
   ~GnomeHotkeyRegistrar() override;
 
-  /// Whether this session is GNOME's and its settings are installed.
+  /// Whether this session is GNOME's, its settings are installed and so is "gdbus", which it calls
+  /// the program by.
   static bool isAvailable();
 
   /// Refused also where one of GNOME's own bindings or of the user's has the combination: GNOME

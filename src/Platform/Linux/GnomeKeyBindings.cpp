@@ -160,7 +160,6 @@ bool setCustom(const QString &path, const CustomBinding &binding) {
     paths.append(path);
     isWritten = setCustomPaths(*settings, paths);
   }
-  g_settings_sync();
   return isWritten;
 }
 
@@ -174,6 +173,9 @@ void removeCustom(const QString &path) {
   for (const char *key : {"name", "command", "binding"}) {
     g_settings_reset(custom.get(), key);
   }
+}
+
+void flush() {
   g_settings_sync();
 }
 

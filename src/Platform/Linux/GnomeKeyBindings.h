@@ -25,12 +25,16 @@ struct CustomBinding {
 /// Whether \p path is in the list of custom bindings.
 bool hasCustom(const QString &path);
 
-/// Writes a custom binding to \p path, and \p path into the list of those. Returns when it is kept.
-/// False when the settings may not be written.
+/// Writes a custom binding to \p path, and \p path into the list of those. False
+/// when the settings may not be written.
 bool setCustom(const QString &path, const CustomBinding &binding);
 
 /// Takes the custom binding at \p path out of the list and away.
 void removeCustom(const QString &path);
+
+/// Waits until what has been written is kept, which else happens soon by itself: for who is about
+/// to end.
+void flush();
 
 }  // namespace GnomeKeyBindings
 

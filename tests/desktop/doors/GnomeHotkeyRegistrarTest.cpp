@@ -189,6 +189,11 @@ TEST_F(GnomeHotkeyRegistrarTest, OtherDesktops_HaveNone) {
   EXPECT_EQ(start(), "missing");
 }
 
+TEST_F(GnomeHotkeyRegistrarTest, WithoutTheToolThatCallsTheProgram_ThereAreNone) {
+  environment.set(u"PATH"_s, u"/nonexistent"_s);
+  EXPECT_EQ(start(), "missing");
+}
+
 TEST_F(GnomeHotkeyRegistrarTest, WithoutGnomesSettings_ThereAreNone) {
   environment.set(u"XDG_DATA_DIRS"_s, u"/nonexistent"_s);
   EXPECT_EQ(start(), "missing");

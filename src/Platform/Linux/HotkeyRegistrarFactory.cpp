@@ -1,5 +1,6 @@
 #include "Platform/Linux/HotkeyRegistrarFactory.h"
 
+#include "Platform/ActivationToken.h"
 #include "Platform/Linux/GnomeHotkeyRegistrar.h"
 #include "Platform/Linux/PortalFirstHotkeyRegistrar.h"
 #include "Platform/Linux/PortalHotkeyRegistrar.h"
@@ -7,6 +8,9 @@
 #include "Platform/Linux/SwayHotkeyRegistrar.h"
 #include "Platform/Linux/X11HotkeyRegistrar.h"
 #include "Platform/Linux/X11Server.h"
+#include "Platform/WindowSystem.h"
+
+#include <utility>
 
 namespace lanternix {
 namespace {
@@ -25,28 +29,44 @@ std::unique_ptr<HotkeyRegistrar> makeCompositorHotkeyRegistrar() {
   return std::make_unique<NullHotkeyRegistrar>();
 }
 
+/// Null without a session bus.
+std::unique_ptr<PortalHotkeyRegistrar> makePortalHotkeyRegistrar() {
+  if (!isSessionBusAnnounced()) {
+    return nullptr;
+  }
+  const auto bus =
+      QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"lanternix-shortcuts"_s);
+  return bus.isConnected() ? std::make_unique<PortalHotkeyRegistrar>(bus) : nullptr;
+}
+
+std::unique_ptr<HotkeyRegistrar> withOtherDoor(std::unique_ptr<PortalHotkeyRegistrar> portal) {
+  auto otherwise = makeCompositorHotkeyRegistrar();
+  if (!portal) {
+    return otherwise;
+  }
+  return std::make_unique<PortalFirstHotkeyRegistrar>(std::move(portal), std::move(otherwise));
+}
+
 }  // namespace
 
 std::unique_ptr<HotkeyRegistrar> makeHotkeyRegistrar(const X11Server &server,
                                                      X11EventTime &eventTime,
                                                      X11KeyboardHold &keyboardHold) {
   if (server.isXWayland()) {
-    return makeWaylandHotkeyRegistrar();
+    return withOtherDoor(makePortalHotkeyRegistrar());
   }
   return std::make_unique<X11HotkeyRegistrar>(server, eventTime, keyboardHold);
 }
 
-std::unique_ptr<HotkeyRegistrar> makeWaylandHotkeyRegistrar() {
-  if (!isSessionBusAnnounced()) {
-    return makeCompositorHotkeyRegistrar();
+std::unique_ptr<HotkeyRegistrar> makeWaylandHotkeyRegistrar(WindowSystem &windowSystem) {
+  auto portal = makePortalHotkeyRegistrar();
+  if (portal) {
+    QObject::connect(portal.get(), &PortalHotkeyRegistrar::tokenReceived, &windowSystem,
+                     [&windowSystem](const QString &token) {
+                       windowSystem.noteRequest({.token = token, .startupId = {}});
+                     });
   }
-  const auto bus =
-      QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"lanternix-shortcuts"_s);
-  if (!bus.isConnected()) {
-    return makeCompositorHotkeyRegistrar();
-  }
-  return std::make_unique<PortalFirstHotkeyRegistrar>(std::make_unique<PortalHotkeyRegistrar>(bus),
-                                                      makeCompositorHotkeyRegistrar());
+  return withOtherDoor(std::move(portal));
 }
 
 }  // namespace lanternix

@@ -5,6 +5,7 @@
 namespace lanternix {
 
 class HotkeyRegistrar;
+class WindowSystem;
 class X11EventTime;
 class X11KeyboardHold;
 class X11Server;
@@ -17,7 +18,8 @@ std::unique_ptr<HotkeyRegistrar> makeHotkeyRegistrar(const X11Server &server,
                                                      X11KeyboardHold &keyboardHold);
 
 /// The door of a Wayland session: the desktop portal's shortcuts, else sway's, else GNOME's. Where
-/// there is none, one that refuses.
-std::unique_ptr<HotkeyRegistrar> makeWaylandHotkeyRegistrar();
+/// there is none, one that refuses. \p windowSystem is told of the activation token that a press
+/// comes with.
+std::unique_ptr<HotkeyRegistrar> makeWaylandHotkeyRegistrar(WindowSystem &windowSystem);
 
 }  // namespace lanternix

@@ -118,9 +118,10 @@ class WaylandPlatform : public LinuxPlatform {
   HotkeyRegistrar &hotkeyRegistrar() override { return *m_hotkeyRegistrar; }
 
  private:
-  const std::unique_ptr<HotkeyRegistrar> m_hotkeyRegistrar = makeWaylandHotkeyRegistrar();
   ActivationMouseMonitor m_mouseMonitor;
   const std::unique_ptr<WindowSystem> m_windowSystem = makeWaylandWindowSystem();
+  const std::unique_ptr<HotkeyRegistrar> m_hotkeyRegistrar =
+      makeWaylandHotkeyRegistrar(*m_windowSystem);
 };
 
 /// Where the window system is none that we know more of than Qt does.

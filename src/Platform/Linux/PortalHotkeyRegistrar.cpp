@@ -194,8 +194,11 @@ void PortalHotkeyRegistrar::readGrant() {
   }
 }
 
-void PortalHotkeyRegistrar::readPress() {
+void PortalHotkeyRegistrar::readPress(const QString &token) {
   m_isAskedAgain = false;
+  if (!token.isEmpty()) {
+    Q_EMIT tokenReceived(token);
+  }
   Q_EMIT pressed();
 }
 

@@ -44,6 +44,9 @@ class PortalHotkeyRegistrar : public HotkeyRegistrar {
  Q_SIGNALS:
   void offerChanged();
 
+  /// The press that pressed() tells of next came with an activation token.
+  void tokenReceived(const QString &token);
+
  private:
   using Handler = std::function<void(const QDBusMessage &reply)>;
 
@@ -58,7 +61,7 @@ class PortalHotkeyRegistrar : public HotkeyRegistrar {
   void setOffer(Offer offer);
   void askForShortcut();
   void readGrant();
-  void readPress();
+  void readPress(const QString &token);
   void readEnd();
   void readLoss(const QString &reason);
   void dropShortcut();

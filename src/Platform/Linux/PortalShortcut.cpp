@@ -112,7 +112,8 @@ void PortalShortcut::readActivation(const QDBusMessage &signal) {
   const QVariantList arguments = signal.arguments();
   if (arguments[0].value<QDBusObjectPath>().path() == m_session &&
       arguments[1].toString() == m_identifier) {
-    Q_EMIT activated();
+    const auto options = qdbus_cast<QVariantMap>(arguments[3]);
+    Q_EMIT activated(options.value(u"activation_token"_s).toString());
   }
 }
 

@@ -24,7 +24,9 @@ class PortalShortcut : public QObject {
   void refused(const QString &reason);
   /// The desktop has taken it away. Nothing comes after this.
   void ended();
-  void activated();
+  /// It was pressed. \p token lets the program's window come to the front; empty where the desktop
+  /// gives none.
+  void activated(const QString &token);
 
  private Q_SLOTS:
   void readActivation(const QDBusMessage &signal);

@@ -98,6 +98,24 @@ TEST_F(PortalHotkeyRegistrarTest, EachPress_IsTold) {
   EXPECT_TRUE(becomesPressed(2));
 }
 
+TEST_F(PortalHotkeyRegistrarTest, TokenOfAPress_ComesBeforeThePress) {
+  startPortal();
+  startProgram();
+  QStringList tokens;
+  QObject::connect(registrar.get(), &PortalHotkeyRegistrar::tokenReceived,
+                   [&](const QString &token) {
+                     EXPECT_EQ(presses, 1);
+                     tokens.append(token);
+                   });
+  registerDefault();
+  ASSERT_TRUE(becomesBound(defaultTrigger));
+  portal->press(u"toggle"_s);
+  ASSERT_TRUE(becomesPressed(1));
+  portal->pressWithToken(u"toggle"_s, u"wl-7"_s);
+  ASSERT_TRUE(becomesPressed(2));
+  EXPECT_THAT(tokens, ElementsAre(u"wl-7"_s));
+}
+
 TEST_F(PortalHotkeyRegistrarTest, PressesOfOtherShortcutsAndSessions_AreNot) {
   startPortal();
   startProgram();

@@ -85,11 +85,12 @@ void ShortcutsPortal::answerAll() {
   }
 }
 
-void ShortcutsPortal::press(const QString &identifier, const QString &session) {
+void ShortcutsPortal::press(const QString &identifier, const QString &session,
+                            const QVariantMap &options) {
   auto signal =
       QDBusMessage::createTargetedSignal(m_client, desktopPath, shortcutsInterface, u"Activated"_s);
   signal.setArguments(
-      {QVariant::fromValue(QDBusObjectPath(session)), identifier, quint64{1}, QVariantMap()});
+      {QVariant::fromValue(QDBusObjectPath(session)), identifier, quint64{1}, options});
   m_connection.send(signal);
 }
 

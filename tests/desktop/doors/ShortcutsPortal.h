@@ -46,7 +46,10 @@ class ShortcutsPortal : public QDBusVirtualObject {
 
   /// Presses the shortcut \p identifier of the newest session, or of another one.
   void press(const QString &identifier) { press(identifier, m_session); }
-  void press(const QString &identifier, const QString &session);
+  void press(const QString &identifier, const QString &session, const QVariantMap &options = {});
+  void pressWithToken(const QString &identifier, const QString &token) {
+    press(identifier, m_session, {{QStringLiteral("activation_token"), token}});
+  }
   /// Ends the newest session, as a desktop may.
   void endSession();
 

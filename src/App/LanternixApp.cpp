@@ -3,6 +3,7 @@
 #include "App/AppDelegate.h"
 #include "App/AppearanceFollower.h"
 #include "Platform/ActivationToken.h"
+#include "Platform/ApplicationId.h"
 #include "Platform/Platform.h"
 #include "Platform/SingleInstance.h"
 #include "Platform/TerminationMonitor.h"
@@ -149,7 +150,7 @@ int LanternixApp::run(int argc, char **argv) {
   }
   const ActivationToken token = ActivationToken::takeFromEnvironment();
   QCoreApplication::setApplicationName(u"Lanternix"_s);
-  QGuiApplication::setDesktopFileName(u"org.lanternix.Lanternix"_s);
+  QGuiApplication::setDesktopFileName(applicationId);
   auto *style = new LanternixStyle;  // owned by the application
   QApplication::setStyle(style);
   AppArguments arguments(argc, argv);

@@ -1,5 +1,7 @@
 #include "Platform/Linux/AutostartEntry.h"
 
+#include "Platform/ApplicationId.h"
+
 #include <QtCore/QFileInfo>
 #include <QtCore/QStandardPaths>
 
@@ -125,7 +127,7 @@ QByteArray starting(const QString &program) {
   set(G_KEY_FILE_DESKTOP_KEY_EXEC, quoted(program));
   // So that nobody is told of a program that has been removed since.
   set(G_KEY_FILE_DESKTOP_KEY_TRY_EXEC, program);
-  set(G_KEY_FILE_DESKTOP_KEY_ICON, u"org.lanternix.Lanternix"_s);
+  set(G_KEY_FILE_DESKTOP_KEY_ICON, applicationId);
   set(G_KEY_FILE_DESKTOP_KEY_TERMINAL, u"false"_s);
   return textOf(entry);
 }

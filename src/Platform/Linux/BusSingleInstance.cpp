@@ -1,6 +1,7 @@
 #include "Platform/Linux/BusSingleInstance.h"
 
 #include "Platform/ActivationToken.h"
+#include "Platform/ApplicationId.h"
 #include "Platform/Linux/ApplicationAdaptor.h"
 #include "Platform/Linux/SessionBusAddress.h"
 
@@ -19,7 +20,6 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(instanceLog, "lanternix.instance", QtWarningMsg)
 
-const QString serviceName = u"org.lanternix.Lanternix"_s;
 const QString objectPath = u"/org/lanternix/Lanternix"_s;
 const QString interfaceName = u"org.freedesktop.Application"_s;
 
@@ -27,7 +27,8 @@ const QString interfaceName = u"org.freedesktop.Application"_s;
 constexpr int patience = 1000;
 
 void askToShow(const QDBusConnection &bus, const ActivationToken &token) {
-  auto call = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, u"Activate"_s);
+  auto call =
+      QDBusMessage::createMethodCall(applicationId, objectPath, interfaceName, u"Activate"_s);
   call.setArguments({ApplicationAdaptor::platformData(token)});
   const QDBusMessage reply = bus.call(call, QDBus::Block, patience);
   if (reply.type() == QDBusMessage::ErrorMessage) {
@@ -54,14 +55,14 @@ BusSingleInstance::BusSingleInstance(std::chrono::milliseconds due) {
 }
 
 bool BusSingleInstance::isAvailable() {
-  return isSessionBusAnnounced() && QDBusConnection::sessionBus().isConnected();
+  return hasSessionBus();
 }
 
 bool BusSingleInstance::claim(const ActivationToken &token) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   // The object is there before its name is, so that nobody finds the one without the other.
   bus.registerObject(objectPath, this);
-  const auto claimed = bus.interface()->registerService(serviceName);
+  const auto claimed = bus.interface()->registerService(applicationId);
   if (!claimed.isValid()) {
     qCWarning(instanceLog).noquote()
         << "The session bus refuses the program's name:" << claimed.error().message();

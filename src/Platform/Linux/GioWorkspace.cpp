@@ -171,7 +171,7 @@ void GioWorkspace::openDirectory(const QString &path, const QString &identifier)
 
 void GioWorkspace::revealInFileViewer(const QString &path) {
   constexpr int patience = 5000;  // milliseconds; a file manager may have to be started first
-  if (!isSessionBusAnnounced() || !QDBusConnection::sessionBus().isConnected()) {
+  if (!hasSessionBus()) {
     openEnclosingFolder(path);
     return;
   }

@@ -33,10 +33,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-bool hasSessionBus() {
-  return isSessionBusAnnounced() && QDBusConnection::sessionBus().isConnected();
-}
-
 std::unique_ptr<SystemAppearance> makeSystemAppearance() {
   if (hasSessionBus()) {
     return std::make_unique<PortalAppearance>(QDBusConnection::sessionBus());

@@ -1,5 +1,7 @@
 #include "Platform/Linux/PortalAppearance.h"
 
+#include "Platform/Linux/PortalPeer.h"
+
 #include <QtCore/QLoggingCategory>
 #include <QtDBus/QDBusArgument>
 #include <QtDBus/QDBusPendingCallWatcher>
@@ -12,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(appearanceLog, "lanternix.appearance", QtWarningMsg)
 
-const QString serviceName = u"org.freedesktop.portal.Desktop"_s;
-const QString objectPath = u"/org/freedesktop/portal/desktop"_s;
 const QString interfaceName = u"org.freedesktop.portal.Settings"_s;
 
 using NameSpaces = QMap<QString, QVariantMap>;
@@ -26,7 +26,8 @@ bool isUnknownMethod(const QDBusMessage &reply) {
 }  // namespace
 
 PortalAppearance::PortalAppearance(const QDBusConnection &bus)
-    : m_bus(bus), m_watcher(serviceName, bus, QDBusServiceWatcher::WatchForOwnerChange) {
+    : m_bus(bus),
+      m_watcher(PortalPeer::serviceName, bus, QDBusServiceWatcher::WatchForOwnerChange) {
   connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
           [this](const QString & /*service*/, const QString & /*before*/, const QString &owner) {
             m_owner = owner;
@@ -35,20 +36,15 @@ PortalAppearance::PortalAppearance(const QDBusConnection &bus)
             }
           });
   // From every sender, because naming the service here would wait for the bus to tell its owner.
-  m_bus.connect(QString(), objectPath, interfaceName, u"SettingChanged"_s, this,
+  m_bus.connect(QString(), PortalPeer::objectPath, interfaceName, u"SettingChanged"_s, this,
                 SLOT(readChange(QDBusMessage)));
   askForOwner();
   askForAll();
 }
 
-/// Replies do not name their sender in every version of Qt. Where nobody has the portal's name yet,
-/// the watcher tells when somebody takes it.
+/// Where nobody has the portal's name yet, the watcher tells when somebody takes it.
 void PortalAppearance::askForOwner() {
-  const QString bus = u"org.freedesktop.DBus"_s;
-  auto question =
-      QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, u"GetNameOwner"_s);
-  question.setArguments({serviceName});
-  send(question, [this](const QDBusMessage &reply) {
+  send(PortalPeer::nameQuestion(), [this](const QDBusMessage &reply) {
     if (reply.signature() == "s"_L1 && m_owner.isEmpty()) {
       m_owner = reply.arguments().constFirst().toString();
     }
@@ -106,7 +102,8 @@ void PortalAppearance::askFor(const PortalSettings::Key &key, const QString &met
 
 void PortalAppearance::call(const QString &method, const QVariantList &arguments,
                             const Handler &handler) {
-  auto message = QDBusMessage::createMethodCall(serviceName, objectPath, interfaceName, method);
+  auto message = QDBusMessage::createMethodCall(PortalPeer::serviceName, PortalPeer::objectPath,
+                                                interfaceName, method);
   message.setArguments(arguments);
   send(message, handler);
 }

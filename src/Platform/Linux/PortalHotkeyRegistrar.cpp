@@ -1,6 +1,8 @@
 #include "Platform/Linux/PortalHotkeyRegistrar.h"
 
+#include "Platform/ApplicationId.h"
 #include "Platform/KeyNames.h"
+#include "Platform/Linux/PortalPeer.h"
 #include "Platform/Linux/PortalShortcut.h"
 
 #include <QtCore/QLoggingCategory>
@@ -16,15 +18,12 @@ using namespace std::chrono_literals;
 
 Q_LOGGING_CATEGORY(hotkeyLog, "lanternix.hotkey", QtWarningMsg)
 
-const QString serviceName = u"org.freedesktop.portal.Desktop"_s;
-const QString objectPath = u"/org/freedesktop/portal/desktop"_s;
-const QString applicationId = u"org.lanternix.Lanternix"_s;
-
 }  // namespace
 
 PortalHotkeyRegistrar::PortalHotkeyRegistrar(const QDBusConnection &bus,
                                              std::chrono::milliseconds patience)
-    : m_bus(bus), m_watcher(serviceName, bus, QDBusServiceWatcher::WatchForOwnerChange) {
+    : m_bus(bus),
+      m_watcher(PortalPeer::serviceName, bus, QDBusServiceWatcher::WatchForOwnerChange) {
   connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, this,
           [this](const QString & /*service*/, const QString &before, const QString &now) {
             followOwner(before, now);
@@ -50,7 +49,7 @@ PortalHotkeyRegistrar::~PortalHotkeyRegistrar() {
   // kept by the dead one.
   m_shortcut.reset();
   qDeleteAll(findChildren<PortalShortcut *>());
-  m_watcher.removeWatchedService(serviceName);
+  m_watcher.removeWatchedService(PortalPeer::serviceName);
   QDBusConnection::disconnectFromBus(m_bus.name());
 }
 
@@ -100,8 +99,8 @@ void PortalHotkeyRegistrar::forgetPortal() {
 void PortalHotkeyRegistrar::introduceProgram() {
   m_isAsking = true;
   m_pause.stop();
-  call(u"org.freedesktop.host.portal.Registry"_s, u"Register"_s, {applicationId, QVariantMap()},
-       [this](const QDBusMessage &reply) {
+  call(u"org.freedesktop.host.portal.Registry"_s, u"Register"_s,
+       {QString(applicationId), QVariantMap()}, [this](const QDBusMessage &reply) {
          if (reply.type() == QDBusMessage::ErrorMessage) {
            qCInfo(hotkeyLog).noquote()
                << "The desktop portal does not take the program's name:" << reply.errorMessage();
@@ -126,13 +125,8 @@ void PortalHotkeyRegistrar::askForOffer() {
        });
 }
 
-/// Of the bus, because replies do not name their sender in every version of Qt.
 void PortalHotkeyRegistrar::askForName() {
-  const QString bus = u"org.freedesktop.DBus"_s;
-  auto question =
-      QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, u"GetNameOwner"_s);
-  question.setArguments({serviceName});
-  send(question, [this](const QDBusMessage &reply) {
+  send(PortalPeer::nameQuestion(), [this](const QDBusMessage &reply) {
     m_isAsking = false;
     if (reply.signature() == "s"_L1) {
       m_portal = reply.arguments().constFirst().toString();
@@ -144,7 +138,8 @@ void PortalHotkeyRegistrar::askForName() {
 
 void PortalHotkeyRegistrar::call(const QString &interface, const QString &method,
                                  const QVariantList &arguments, const Handler &handler) {
-  auto message = QDBusMessage::createMethodCall(serviceName, objectPath, interface, method);
+  auto message = QDBusMessage::createMethodCall(PortalPeer::serviceName, PortalPeer::objectPath,
+                                                interface, method);
   message.setArguments(arguments);
   send(message, handler);
 }

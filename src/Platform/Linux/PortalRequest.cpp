@@ -10,20 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString desktopPath = u"/org/freedesktop/portal/desktop"_s;
 const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 
 }  // namespace
-
-QString PortalPeer::pathOf(const QString &kind, const QString &token) const {
-  const QString sender = bus.baseService().mid(1).replace(u'.', u'_');  // without its colon
-  return desktopPath + u'/' + kind + u'/' + sender + u'/' + token;
-}
-
-QString PortalPeer::freshToken() {
-  static int count = 0;
-  return u"lanternix_%1"_s.arg(++count);
-}
 
 PortalRequest::PortalRequest(const PortalPeer &portal, const QString &interface,
                              const QString &method, QVariantList arguments, QVariantMap options)
@@ -33,7 +22,8 @@ PortalRequest::PortalRequest(const PortalPeer &portal, const QString &interface,
   listenAt(m_portal.pathOf(u"request"_s, token));
   options.insert(u"handle_token"_s, token);
   arguments.append(options);
-  auto call = QDBusMessage::createMethodCall(m_portal.name, desktopPath, interface, method);
+  auto call =
+      QDBusMessage::createMethodCall(m_portal.name, PortalPeer::objectPath, interface, method);
   call.setArguments(arguments);
   send(call);
 }

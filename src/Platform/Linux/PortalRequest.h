@@ -1,24 +1,11 @@
 #pragma once
 
+#include "Platform/Linux/PortalPeer.h"
+
 #include <QtCore/QObject>
 #include <QtCore/QVariantMap>
-#include <QtDBus/QDBusConnection>
-#include <QtDBus/QDBusMessage>
 
 namespace lanternix {
-
-/// The running desktop portal, as one connection to the bus reaches it.
-struct PortalPeer {
-  QDBusConnection bus;
-  /// Its own name on the bus, so that a portal that comes after it is never taken for it.
-  QString name;
-
-  /// The path of an object that the portal makes for this connection, of \p kind "request" or
-  /// "session", when it is asked with \p token.
-  QString pathOf(const QString &kind, const QString &token) const;
-  /// A token that this process has not used before.
-  static QString freshToken();
-};
 
 /// One request to the desktop portal. The answer comes later, perhaps after the user has been
 /// asked, from an object that the portal makes for it.

@@ -12,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString desktopPath = u"/org/freedesktop/portal/desktop"_s;
 const QString shortcutsInterface = u"org.freedesktop.portal.GlobalShortcuts"_s;
 const QString sessionInterface = u"org.freedesktop.portal.Session"_s;
 
@@ -49,8 +48,8 @@ PortalShortcut::PortalShortcut(const PortalPeer &portal, const QString &trigger)
     : m_portal(portal), m_trigger(trigger), m_identifier(identifierFor(trigger)) {
   qDBusRegisterMetaType<Entry>();
   qDBusRegisterMetaType<QList<Entry>>();
-  m_portal.bus.connect(m_portal.name, desktopPath, shortcutsInterface, u"Activated"_s, this,
-                       SLOT(readActivation(QDBusMessage)));
+  m_portal.bus.connect(m_portal.name, PortalPeer::objectPath, shortcutsInterface, u"Activated"_s,
+                       this, SLOT(readActivation(QDBusMessage)));
   const QString token = PortalPeer::freshToken();
   m_session = m_portal.pathOf(u"session"_s, token);
   ask(u"CreateSession"_s, {}, {{u"session_handle_token"_s, token}}, &PortalShortcut::bind);

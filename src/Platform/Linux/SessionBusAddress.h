@@ -6,4 +6,7 @@ namespace lanternix {
 /// libraries would start a bus of their own, which takes long and which nobody else is on.
 bool isSessionBusAnnounced();
 
+/// Whether there is a session bus. Connects to it as QDBusConnection::sessionBus().
+bool hasSessionBus();
+
 }  // namespace lanternix

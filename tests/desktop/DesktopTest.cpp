@@ -2,7 +2,6 @@
 
 #include "support/HarnessError.h"
 
-
 #include <X11/keysym.h>
 
 namespace lanternix {

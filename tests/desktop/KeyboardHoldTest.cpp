@@ -6,7 +6,9 @@
 #include <QtCore/QProcess>
 
 #include <X11/keysym.h>
+#include <array>
 #include <optional>
+#include <xcb/xinput.h>
 
 namespace lanternix {
 namespace {
@@ -169,6 +171,44 @@ TEST_F(KeyboardHoldTest, ShortcutHeldUntilAfterTheHold_StillTogglesOnce) {
   program().settle();
   pressShortcut();
   EXPECT_TRUE(becomesHidden());
+}
+
+/// Real machines have many devices, and the server names a counter after each.
+class KeyboardHoldAmongManyDevicesTest : public KeyboardHoldTest {
+ protected:
+  void SetUp() override {
+    addMasterDevice();
+    addMasterDevice();
+    KeyboardHoldTest::SetUp();
+  }
+
+  /// Four devices in fact: a pointer and a keyboard, and those to drive them.
+  void addMasterDevice() {
+    struct AddMaster {
+      xcb_input_add_master_t head;
+      std::array<char, 4> name;
+    };
+    const AddMaster change{.head = {.type = XCB_INPUT_HIERARCHY_CHANGE_TYPE_ADD_MASTER,
+                                    .len = sizeof change / 4,
+                                    .name_len = sizeof change.name,
+                                    .send_core = 1,
+                                    .enable = 1},
+                           .name = {'m', 'o', 'r', 'e'}};
+    const XConnection &connection = session().windows().connection();
+    xcb_input_xi_change_hierarchy(connection, 1,
+                                  reinterpret_cast<const xcb_input_hierarchy_change_t *>(&change));
+    connection.sync();
+  }
+};
+
+TEST_F(KeyboardHoldAmongManyDevicesTest, LettersTypedBeforeThePanelHasTheKeyboard_ReachTheSearch) {
+  pressWhileTheWindowManagerIsBusy();
+  EXPECT_FALSE(canBeTaken());
+  input().type(u"dep"_s);
+  input().tap(XK_Return);
+  busyManager.reset();
+  EXPECT_TRUE(becomesMarked(u"Deploy"_s));
+  EXPECT_THAT(strayKeys(), testing::IsEmpty());
 }
 
 }  // namespace

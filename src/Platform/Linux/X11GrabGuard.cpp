@@ -2,7 +2,9 @@
 
 #include <QtCore/QLoggingCategory>
 
+#include <algorithm>
 #include <array>
+#include <cstring>
 #include <limits>
 #include <string_view>
 
@@ -28,10 +30,25 @@ xcb_sync_waitcondition_t reaches(xcb_sync_counter_t counter, xcb_sync_valuetype_
           .event_threshold = split(std::numeric_limits<qint64>::max())};
 }
 
-/// xcb's own accessor skips two bytes too many: the name follows its length without a gap.
-std::string_view nameOf(const xcb_sync_systemcounter_t &counter) {
-  const auto *name = reinterpret_cast<const char *>(&counter.name_len) + sizeof counter.name_len;
-  return {name, counter.name_len};
+/// XCB_NONE where there is no counter of that name. xcb's own iterator cannot be used: it takes the
+/// fixed part of an entry for two bytes longer than it is and gets lost at the first long name.
+xcb_sync_counter_t counterNamed(std::string_view wanted,
+                                const xcb_sync_list_system_counters_reply_t &reply) {
+  constexpr std::size_t unit = 4;
+  constexpr std::size_t fixedPart = 14;  // the counter, its resolution, the length of its name
+  std::string_view rest(reinterpret_cast<const char *>(&reply + 1), reply.length * unit);
+  for (quint32 i = 0; i < reply.counters_len && rest.size() >= fixedPart; ++i) {
+    xcb_sync_counter_t counter = XCB_NONE;
+    quint16 nameLength = 0;
+    std::memcpy(&counter, rest.data(), sizeof counter);
+    std::memcpy(&nameLength, rest.data() + fixedPart - sizeof nameLength, sizeof nameLength);
+    if (rest.substr(fixedPart, nameLength) == wanted) {
+      return counter;
+    }
+    const std::size_t size = (fixedPart + nameLength + unit - 1) / unit * unit;
+    rest.remove_prefix(std::min(size, rest.size()));
+  }
+  return XCB_NONE;
 }
 
 }  // namespace
@@ -52,7 +69,6 @@ X11GrabGuard::X11GrabGuard(const X11Server &server)
 X11GrabGuard::~X11GrabGuard() = default;
 
 xcb_sync_counter_t X11GrabGuard::findServerTime() const {
-  constexpr std::string_view wanted = "SERVERTIME";
   xcb_connection_t *connection = m_connection.get();
   const auto *extension = xcb_get_extension_data(connection, &xcb_sync_id);
   if (extension == nullptr || extension->present == 0) {
@@ -63,16 +79,7 @@ xcb_sync_counter_t X11GrabGuard::findServerTime() const {
       xcb_sync_initialize(connection, XCB_SYNC_MAJOR_VERSION, XCB_SYNC_MINOR_VERSION).sequence);
   const X11Reply<xcb_sync_list_system_counters_reply_t> reply(xcb_sync_list_system_counters_reply(
       connection, xcb_sync_list_system_counters(connection), nullptr));
-  if (!reply) {
-    return XCB_NONE;
-  }
-  for (auto counter = xcb_sync_list_system_counters_counters_iterator(reply.get()); counter.rem > 0;
-       xcb_sync_systemcounter_next(&counter)) {
-    if (nameOf(*counter.data) == wanted) {
-      return counter.data->counter;
-    }
-  }
-  return XCB_NONE;
+  return reply ? counterNamed("SERVERTIME", *reply) : xcb_sync_counter_t{XCB_NONE};
 }
 
 /// The window is inside another one, so that no window manager hears of its coming and going.

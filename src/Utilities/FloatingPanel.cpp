@@ -110,6 +110,7 @@ void FloatingPanel::setFrame(const QRect &frame) {
 
 void FloatingPanel::awaitPlace() {
   m_hasBeenSeen = false;
+  m_hasHadItsSize = false;
   m_isInPlace = false;
 }
 
@@ -118,6 +119,7 @@ void FloatingPanel::awaitPlace() {
 void FloatingPanel::confirmPlace() {
   const bool isInTheUsersHand = m_isDragged || m_edgeResizer->isResizing();
   m_isInPlace = isInTheUsersHand || windowHandle()->geometry() == m_wantedGeometry;
+  m_hasHadItsSize = isInTheUsersHand || windowHandle()->size() == m_wantedGeometry.size();
   if (!m_isInPlace) {
     m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);
   }
@@ -149,10 +151,11 @@ void FloatingPanel::resizeEvent(QResizeEvent *event) {
   if (m_edgeResizer) {  // which comes after the first size
     updateShape();
   }
-  // Before the next picture it is the window manager that fits the window in, not the user.
-  if (event->spontaneous() && m_hasBeenSeen && !m_edgeResizer->isResizing()) {
+  // Until it has its size it is the window manager that fits the window in, not the user.
+  if (event->spontaneous() && m_hasHadItsSize && !m_edgeResizer->isResizing()) {
     m_resizePause.start();
   }
+  m_hasHadItsSize = m_hasHadItsSize || (m_hasBeenSeen && size() == m_wantedGeometry.size());
 }
 
 void FloatingPanel::hideEvent(QHideEvent * /*event*/) {
@@ -162,8 +165,7 @@ void FloatingPanel::hideEvent(QHideEvent * /*event*/) {
   }
 }
 
-/// On its way to the size that it was given, a window may pass through others: those are nobody's
-/// wish.
+/// A window may be back at the size that it was given: that is nobody's wish.
 void FloatingPanel::endResizeByManager() {
   m_resizePause.stop();
   if (size() != m_wantedGeometry.size()) {

@@ -77,6 +77,9 @@ class FloatingPanel : public QWidget {
   QTimer m_resizePause;
   /// Since it was shown or given a frame.
   bool m_hasBeenSeen = false;
+  /// False until the window has, since then, had the size that it was given. What it passes
+  /// through on the way is nobody's wish.
+  bool m_hasHadItsSize = false;
   /// What it was given, or resized to by the user.
   QRect m_wantedGeometry;
   /// False until the window manager has brought the shown window to its place and said so: until

@@ -172,4 +172,18 @@ TEST_F(FloatingPanelOnItsWayTest, MovedByTheUserOnceThere_StaysWhereItIsWhenACom
   EXPECT_EQ(panel.frame(), moved);
 }
 
+TEST_F(FloatingPanelOnItsWayTest, SizesThatItPassesThrough_AreNotTheUsers) {
+  FloatingPanel squeezed(windowSystem);
+  squeezed.setFrame(frame);
+  const QSignalSpy resized(&squeezed, &FloatingPanel::didEndLiveResize);
+  squeezed.makeKeyAndOrderFront();
+  squeezed.windowHandle()->resize(560, 440);
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&squeezed));
+  QCoreApplication::processEvents();
+  squeezed.windowHandle()->resize(540, 420);
+  QCoreApplication::processEvents();
+  squeezed.hide();
+  EXPECT_EQ(resized.count(), 0);
+}
+
 }  // namespace lanternix

@@ -4,6 +4,7 @@
 
 #include <QtCore/QEvent>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QMouseEvent>
 
 #include <LayerShellQt/Window>
 
@@ -45,6 +46,7 @@ void LayerShellWindowSystem::closeOn(const QScreen *screen) {
 
 void LayerShellWindowSystem::prepareHiding(QWindow &window) {
   m_drag.stop();
+  window.removeEventFilter(this);
   QtWindowSystem::prepareHiding(window);
 }
 
@@ -59,7 +61,8 @@ bool LayerShellWindowSystem::takeDrag(QWindow &window, Qt::Edges /*edges*/, QPoi
 
 /// At the end of a drag; until the next one, no motion of the mouse is of interest.
 bool LayerShellWindowSystem::eventFilter(QObject *watched, QEvent *event) {
-  if (event->type() == QEvent::MouseButtonRelease) {
+  if (event->type() == QEvent::MouseButtonRelease &&
+      static_cast<const QMouseEvent *>(event)->button() == Qt::LeftButton) {
     m_drag.stop();
     watched->removeEventFilter(this);
   }

@@ -18,8 +18,8 @@ class SwayConnection;
 /// to start, and needs no other program.
 ///
 /// A binding that the configuration makes for the same keys is hidden meanwhile and is back when
-/// this one goes; one that is made with "--to-code", as this one is, only when sway reads its
-/// configuration again. Then sway drops this one too, and it is made anew.
+/// this one goes; one that is made by key codes ("--to-code" or "bindcode") may be back only when
+/// sway reads its configuration again. Then sway drops this one too, and it is made anew.
 class SwayHotkeyRegistrar : public HotkeyRegistrar {
   Q_OBJECT
 

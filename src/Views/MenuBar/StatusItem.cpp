@@ -15,7 +15,7 @@ namespace lanternix {
 
 namespace {
 
-Q_LOGGING_CATEGORY(statusItem, "lanternix.tray", QtInfoMsg)
+Q_LOGGING_CATEGORY(statusItem, "lanternix.tray", QtWarningMsg)
 
 }  // namespace
 
@@ -35,8 +35,9 @@ void StatusItem::showWhereThereIsATray() {
   }
   if (m_icon) {
     if (kind != m_kind) {
-      // Also while the tray of this kind is merely being started anew.
-      qCInfo(statusItem) << "The icon will be in the tray of another kind after a new start";
+      // Perhaps for a moment only, while the tray of this kind is being started anew.
+      qCWarning(statusItem) << "The icon waits for a tray of the kind that it was made for; in the"
+                            << "one that is there now it appears after a new start of the program";
     }
     return;
   }

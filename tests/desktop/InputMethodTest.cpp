@@ -39,6 +39,7 @@ TEST_F(InputMethodTest, AComposedLetterTypedBeforeThePanelHasTheKeyboard_IsSearc
   input().tap(XK_Escape);
   ASSERT_TRUE(becomesHidden());
   {
+    session().windowManager()->settle();  // or it may have the server to itself just then
     const SuspendedProcess busyManager(session().windowManager()->processId());
     pressShortcut();
     ProgramPing(session().displayName(), program().panel()).waitForAnswer();

@@ -26,9 +26,15 @@ class KeyboardHoldTest : public DesktopTest {
     require(u"the other program's keys"_s, [&] { return other->keys().size() == 4; });
   }
 
+  void suspendTheWindowManager() {
+    // Not in the midst of something for which it keeps the whole server to itself.
+    session().windowManager()->settle();
+    busyManager.emplace(session().windowManager()->processId());
+  }
+
   /// Presses the shortcut, and returns once the program has seen it.
   void pressWhileTheWindowManagerIsBusy() {
-    busyManager.emplace(session().windowManager()->processId());
+    suspendTheWindowManager();
     pressShortcut();
     ProgramPing(session().displayName(), program().panel()).waitForAnswer();
   }
@@ -156,7 +162,7 @@ TEST_F(KeyboardHoldTest, ProgramThatEnds_LeavesTheKeyboardFree) {
 }
 
 TEST_F(KeyboardHoldTest, ShortcutHeldUntilAfterTheHold_StillTogglesOnce) {
-  busyManager.emplace(session().windowManager()->processId());
+  suspendTheWindowManager();
   input().press(XK_Super_L);
   input().press(XK_Shift_L);
   input().press(XK_space);

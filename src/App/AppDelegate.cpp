@@ -11,6 +11,7 @@
 #include "Views/Settings/SettingsView.h"
 
 #include <QtGui/QKeyEvent>
+#include <QtGui/QWindow>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
 
@@ -124,7 +125,9 @@ void AppDelegate::openSettings() {
   }
   m_settings->present();
   // First, because hiding the panel would count as the answer to who asks for the settings.
-  m_windowSystem.activate(*m_settings->windowHandle());
+  // A window under a question or an editor may not have the keyboard.
+  QWindow *dialog = QGuiApplication::modalWindow();
+  m_windowSystem.activate(dialog != nullptr ? *dialog : *m_settings->windowHandle());
   if (m_panel && m_panel->isVisible()) {
     m_appState.hidePanel();
   }

@@ -107,7 +107,6 @@ void SettingsView::present() {
   setWindowState(windowState() & ~Qt::WindowMinimized);
   show();
   raise();
-  activateWindow();
 }
 
 void SettingsView::hideEvent(QHideEvent *event) {

@@ -24,8 +24,8 @@ class SettingsView : public QWidget {
   /// \p fileChooser answers wherever a file is to be chosen.
   SettingsView(AppState &appState, LoginItem &loginItem, FileChooser &fileChooser);
 
-  /// Shows the window, or raises it, and asks for the keyboard. Only in answer to an action of the
-  /// user.
+  /// Shows the window, or raises it. The keyboard is for the caller to give. Only in answer to an
+  /// action of the user.
   void present();
 
  protected:

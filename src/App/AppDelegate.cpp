@@ -124,10 +124,10 @@ void AppDelegate::openSettings() {
     m_settings = std::make_unique<SettingsView>(m_appState, m_loginItem, m_fileChooser);
   }
   m_settings->present();
-  // First, because hiding the panel would count as the answer to who asks for the settings.
   // A window under a question or an editor may not have the keyboard.
   QWindow *dialog = QGuiApplication::modalWindow();
   m_windowSystem.activate(dialog != nullptr ? *dialog : *m_settings->windowHandle());
+  // Not before: it would count as the answer to who asks for the settings.
   if (m_panel && m_panel->isVisible()) {
     m_appState.hidePanel();
   }

@@ -124,9 +124,11 @@ void AppDelegate::openSettings() {
     m_settings = std::make_unique<SettingsView>(m_appState, m_loginItem, m_fileChooser);
   }
   m_settings->present();
-  // A window under a question or an editor may not have the keyboard.
+  // A window under a question or an editor may not have the keyboard. The desktop's own file dialog
+  // leaves an invisible one, which cannot have it either.
   QWindow *dialog = QGuiApplication::modalWindow();
-  m_windowSystem.activate(dialog != nullptr ? *dialog : *m_settings->windowHandle());
+  const bool isCovered = dialog != nullptr && dialog->isVisible();
+  m_windowSystem.activate(isCovered ? *dialog : *m_settings->windowHandle());
   // Not before: it would count as the answer to who asks for the settings.
   if (m_panel && m_panel->isVisible()) {
     m_appState.hidePanel();

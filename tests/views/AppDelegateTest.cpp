@@ -1,6 +1,55 @@
 #include "views/AppDelegateTest.h"
 
+#include "Platform/ActivationToken.h"
+
+#include <QtWidgets/QDialog>
+
+#include <optional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
 namespace lanternix {
+
+namespace {
+
+/// Keeps which window a request was answered by; none by hiding one.
+class AnswerRecorder final : public QtWindowSystem {
+ public:
+  void noteRequest(const ActivationToken & /*token*/) override { m_isAsked = true; }
+  void activate(QWindow &window) override { answer(window.title()); }
+  void prepareHiding(QWindow & /*window*/) override { answer({}); }
+
+  std::optional<QString> answered;
+
+ private:
+  void answer(const QString &title) {
+    if (std::exchange(m_isAsked, false)) {
+      answered = title;
+    }
+  }
+
+  bool m_isAsked = false;
+};
+
+/// Requests for the settings, each of which the user expects one window to answer.
+class SettingsAnswerTest : public AppDelegateTest {
+ protected:
+  void SetUp() override {
+    delegate = std::make_unique<AppDelegate>(doors(), recorder, mouseMonitor, loginItem);
+    delegate->applicationDidFinishLaunching();
+  }
+  void TearDown() override { delegate.reset(); }
+
+  void askForSettings() {
+    recorder.noteRequest({});
+    delegate->openSettings();
+  }
+
+  AnswerRecorder recorder;
+};
+
+}  // namespace
 
 TEST_F(AppDelegateTest, ThePanel_ShowsItselfAfterTheStart) {
   delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
@@ -19,16 +68,31 @@ TEST_F(AppDelegateTest, SettingsOpenedBeforeThePanelShowsItself_KeepItAway) {
   EXPECT_TRUE(settings()->isVisible());
 }
 
-TEST_F(AppDelegateTest, SettingsAskedForOverTheVisiblePanel_AreTheAnswer) {
-  AnswerRecorder recorder;
-  delegate = std::make_unique<AppDelegate>(doors(), recorder, mouseMonitor, loginItem);
-  delegate->applicationDidFinishLaunching();
+TEST_F(SettingsAnswerTest, SettingsAskedForOverTheVisiblePanel_AreTheAnswer) {
   delegate->showPanel();
-  recorder.noteRequest({});
-  delegate->openSettings();
-  EXPECT_EQ(recorder.answered, QStringLiteral("Lanternix Settings"));
+  askForSettings();
+  EXPECT_EQ(recorder.answered, u"Lanternix Settings"_s);
   EXPECT_FALSE(panel()->isVisible());
-  delegate.reset();
+}
+
+TEST_F(SettingsAnswerTest, QuestionOverTheSettings_IsTheAnswer) {
+  askForSettings();
+  QDialog question(settings());
+  question.setWindowTitle(u"Sure?"_s);
+  question.open();
+  askForSettings();
+  EXPECT_EQ(recorder.answered, u"Sure?"_s);
+}
+
+// What the desktop's own file dialog is to Qt.
+TEST_F(SettingsAnswerTest, DialogOfTheDesktopOverTheSettings_LeavesTheAnswerToThem) {
+  askForSettings();
+  QDialog outside(settings());
+  outside.setAttribute(Qt::WA_DontShowOnScreen);
+  outside.open();
+  ASSERT_EQ(QGuiApplication::modalWindow(), outside.windowHandle());
+  askForSettings();
+  EXPECT_EQ(recorder.answered, u"Lanternix Settings"_s);
 }
 
 TEST_F(AppDelegateTest, ToggleBeforeThePanelShowsItself_ShowsItAndItStays) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "App/AppDelegate.h"
-#include "Platform/ActivationToken.h"
 #include "Platform/GlobalMouseMonitor.h"
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Platform/LoginItem.h"
@@ -21,8 +20,6 @@
 #include <QtWidgets/QLineEdit>
 
 #include <functional>
-#include <optional>
-#include <utility>
 
 namespace lanternix {
 
@@ -45,25 +42,6 @@ class AnnouncingWindowSystem final : public QtWindowSystem {
   void preparePanel(QWindow & /*window*/) override { beforeShow(); }
 
   std::function<void()> beforeShow = [] {};
-};
-
-/// Keeps which window a request was answered by; none by hiding one.
-class AnswerRecorder final : public QtWindowSystem {
- public:
-  void noteRequest(const ActivationToken & /*token*/) override { m_isAsked = true; }
-  void activate(QWindow &window) override { answer(window.title()); }
-  void prepareHiding(QWindow & /*window*/) override { answer({}); }
-
-  std::optional<QString> answered;
-
- private:
-  void answer(const QString &title) {
-    if (std::exchange(m_isAsked, false)) {
-      answered = title;
-    }
-  }
-
-  bool m_isAsked = false;
 };
 
 /// The program's own logic over its panel and settings.

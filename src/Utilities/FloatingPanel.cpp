@@ -117,9 +117,13 @@ void FloatingPanel::awaitPlace() {
 /// A window manager that puts the window into a frame of its own moves that to its place later, and
 /// need not say so. Asked once more for the same, it has to.
 void FloatingPanel::confirmPlace() {
+  if (!m_hasBeenSeen) {
+    return;  // it has been given another frame meanwhile, which will be confirmed in its turn
+  }
   const bool isInTheUsersHand = m_isDragged || m_edgeResizer->isResizing();
   m_isInPlace = isInTheUsersHand || windowHandle()->geometry() == m_wantedGeometry;
-  m_hasHadItsSize = isInTheUsersHand || windowHandle()->size() == m_wantedGeometry.size();
+  m_hasHadItsSize =
+      m_edgeResizer->isResizing() || windowHandle()->size() == m_wantedGeometry.size();
   if (!m_isInPlace) {
     m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);
   }
@@ -175,6 +179,7 @@ void FloatingPanel::endResizeByManager() {
 
 void FloatingPanel::endResizeByUser() {
   m_wantedGeometry = geometry();
+  m_hasHadItsSize = true;
   Q_EMIT didEndLiveResize();
 }
 
@@ -205,9 +210,10 @@ void FloatingPanel::updateShape() {
 // A press that no view wants reaches the window: it is the background.
 
 void FloatingPanel::mousePressEvent(QMouseEvent *event) {
-  m_dragOffset = event->position().toPoint();
-  m_isDragged = event->button() == Qt::LeftButton &&
-                !m_windowSystem.takeDrag(*windowHandle(), {}, m_dragOffset);
+  if (event->button() == Qt::LeftButton) {
+    m_dragOffset = event->position().toPoint();
+    m_isDragged = !m_windowSystem.takeDrag(*windowHandle(), {}, m_dragOffset);
+  }
 }
 
 void FloatingPanel::mouseMoveEvent(QMouseEvent *event) {
@@ -218,8 +224,8 @@ void FloatingPanel::mouseMoveEvent(QMouseEvent *event) {
   }
 }
 
-void FloatingPanel::mouseReleaseEvent(QMouseEvent * /*event*/) {
-  m_isDragged = false;
+void FloatingPanel::mouseReleaseEvent(QMouseEvent *event) {
+  m_isDragged = m_isDragged && event->button() != Qt::LeftButton;
 }
 
 }  // namespace lanternix

@@ -72,6 +72,9 @@ bool WindowEdgeResizer::eventFilter(QObject * /*watched*/, QEvent *event) {
 }
 
 bool WindowEdgeResizer::press(const QMouseEvent &event) {
+  if (m_resizing) {
+    return true;  // of another button, which must not change what is held
+  }
   m_edges = edgesAt(event.position().toPoint());
   if (event.button() != Qt::LeftButton || m_edges == Qt::Edges{}) {
     return false;

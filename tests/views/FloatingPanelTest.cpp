@@ -21,13 +21,39 @@ class FloatingPanelTest : public testing::Test {
   }
 
   void drag(const QPoint &from, const QPoint &distance) {
-    QWindow *window = panel.windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, {}, from);
-    // Positions are the window's own, and the window may move along with the pointer.
-    const QPoint target = window->mapToGlobal(from) + distance;
-    QTest::mouseMove(window, window->mapFromGlobal(target));
-    QTest::mouseRelease(window, Qt::LeftButton, {}, window->mapFromGlobal(target));
+    press(Qt::LeftButton, positionOf(from));
+    dragOn(positionOf(from) + distance);
+  }
+
+  /// The other button is clicked on the way, at \p meanwhile from where the drag begins.
+  void dragWithAnotherButton(const QPoint &from, const QPoint &meanwhile, const QPoint &distance) {
+    const QPoint start = positionOf(from);
+    press(Qt::LeftButton, start);
+    move(start + meanwhile);
+    press(Qt::RightButton, start + meanwhile);
+    release(Qt::RightButton, start + meanwhile);
+    dragOn(start + distance);
+  }
+
+  // Positions on the screen, for the window may move along with the pointer.
+
+  QPoint positionOf(const QPoint &inWindow) const {
+    return panel.windowHandle()->mapToGlobal(inWindow);
+  }
+  void press(Qt::MouseButton button, const QPoint &position) {
+    QTest::mousePress(panel.windowHandle(), button, {}, inWindow(position));
+  }
+  void move(const QPoint &position) { QTest::mouseMove(panel.windowHandle(), inWindow(position)); }
+  void release(Qt::MouseButton button, const QPoint &position) {
+    QTest::mouseRelease(panel.windowHandle(), button, {}, inWindow(position));
+  }
+  void dragOn(const QPoint &target) {
+    move(target);
+    release(Qt::LeftButton, target);
     QCoreApplication::processEvents();
+  }
+  QPoint inWindow(const QPoint &position) const {
+    return panel.windowHandle()->mapFromGlobal(position);
   }
 
   QtWindowSystem windowSystem;
@@ -61,6 +87,15 @@ class FloatingPanelOnItsWayTest : public testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
     QCoreApplication::processEvents();
     ASSERT_EQ(panel.pos(), QPoint(0, 0));
+  }
+
+  /// What a window manager makes of a panel that it does not let have its size.
+  void showInAnotherSize(FloatingPanel &squeezed) {
+    squeezed.setFrame(frame);
+    squeezed.makeKeyAndOrderFront();
+    squeezed.windowHandle()->resize(560, 440);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&squeezed));
+    QCoreApplication::processEvents();
   }
 
   static constexpr QRect frame{200, 150, 500, 400};
@@ -139,6 +174,17 @@ TEST_F(FloatingPanelTest, GivenAFrameAfterItsWindowGotAnotherSize_DoesNotTakeTha
   EXPECT_EQ(resized.count(), 0);
 }
 
+TEST_F(FloatingPanelTest, AnotherButtonMeanwhile_LeavesTheEdgeHeld) {
+  // No narrower than it may be, so that the pointer leaves the edge.
+  dragWithAnotherButton({498, 200}, {-200, 0}, {30, 20});
+  EXPECT_EQ(panel.geometry(), QRect(100, 50, 530, 400));
+}
+
+TEST_F(FloatingPanelTest, AnotherButtonMeanwhile_LeavesTheBackgroundHeld) {
+  dragWithAnotherButton({250, 200}, {100, 100}, {30, 20});
+  EXPECT_EQ(panel.geometry(), QRect(130, 70, 500, 400));
+}
+
 TEST_F(FloatingPanelTest, IsMovedByItsBackground) {
   const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
   drag({250, 200}, {30, 20});
@@ -174,16 +220,26 @@ TEST_F(FloatingPanelOnItsWayTest, MovedByTheUserOnceThere_StaysWhereItIsWhenACom
 
 TEST_F(FloatingPanelOnItsWayTest, SizesThatItPassesThrough_AreNotTheUsers) {
   FloatingPanel squeezed(windowSystem);
-  squeezed.setFrame(frame);
   const QSignalSpy resized(&squeezed, &FloatingPanel::didEndLiveResize);
-  squeezed.makeKeyAndOrderFront();
-  squeezed.windowHandle()->resize(560, 440);
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&squeezed));
-  QCoreApplication::processEvents();
+  ASSERT_NO_FATAL_FAILURE(showInAnotherSize(squeezed));
   squeezed.windowHandle()->resize(540, 420);
   QCoreApplication::processEvents();
   squeezed.hide();
   EXPECT_EQ(resized.count(), 0);
+}
+
+TEST_F(FloatingPanelOnItsWayTest, SizesAfterTheUserHasGivenItOne_AreTheUsers) {
+  FloatingPanel squeezed(windowSystem);
+  QSignalSpy resized(&squeezed, &FloatingPanel::didEndLiveResize);
+  ASSERT_NO_FATAL_FAILURE(showInAnotherSize(squeezed));
+  QWindow *window = squeezed.windowHandle();
+  const QPoint edge(squeezed.contentsRect().right(), 200);
+  QTest::mousePress(window, Qt::LeftButton, {}, edge);
+  window->resize(580, 440);
+  QTest::mouseRelease(window, Qt::LeftButton, {}, edge);
+  ASSERT_EQ(resized.count(), 1);
+  window->resize(600, 440);
+  EXPECT_TRUE(resized.wait());
 }
 
 }  // namespace lanternix

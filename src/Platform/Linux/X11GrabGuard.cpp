@@ -31,7 +31,8 @@ xcb_sync_waitcondition_t reaches(xcb_sync_counter_t counter, xcb_sync_valuetype_
 }
 
 /// XCB_NONE where there is no counter of that name. xcb's own iterator cannot be used: it takes the
-/// fixed part of an entry for two bytes longer than it is and gets lost at the first long name.
+/// fixed part of an entry for two bytes longer than it is, which the padding hides only behind
+/// names of some lengths.
 xcb_sync_counter_t counterNamed(std::string_view wanted,
                                 const xcb_sync_list_system_counters_reply_t &reply) {
   constexpr std::size_t unit = 4;

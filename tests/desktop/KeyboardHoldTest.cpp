@@ -183,8 +183,8 @@ TEST_F(KeyboardHoldTest, ShortcutHeldUntilAfterTheHold_StillTogglesOnce) {
 class KeyboardHoldAmongManyDevicesTest : public KeyboardHoldTest {
  protected:
   void SetUp() override {
-    addMasterDevice();
-    addMasterDevice();
+    ASSERT_NO_FATAL_FAILURE(addMasterDevice());
+    ASSERT_NO_FATAL_FAILURE(addMasterDevice());
     KeyboardHoldTest::SetUp();
   }
 
@@ -201,9 +201,9 @@ class KeyboardHoldAmongManyDevicesTest : public KeyboardHoldTest {
                                     .enable = 1},
                            .name = {'m', 'o', 'r', 'e'}};
     const XConnection &connection = session().windows().connection();
-    xcb_input_xi_change_hierarchy(connection, 1,
-                                  reinterpret_cast<const xcb_input_hierarchy_change_t *>(&change));
-    connection.sync();
+    const xcb_void_cookie_t request = xcb_input_xi_change_hierarchy_checked(
+        connection, 1, reinterpret_cast<const xcb_input_hierarchy_change_t *>(&change));
+    ASSERT_EQ(XReply<xcb_generic_error_t>(xcb_request_check(connection, request)), nullptr);
   }
 };
 

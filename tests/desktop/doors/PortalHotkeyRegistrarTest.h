@@ -2,12 +2,6 @@
 
 #include "Platform/Linux/PortalHotkeyRegistrar.h"
 #include "desktop/doors/PortalHotkeyTest.h"
-#include "support/ProgramEnvironment.h"
-
-#include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
-#include <QtDBus/QDBusConnectionInterface>
-#include <QtDBus/QDBusReply>
 
 namespace lanternix {
 
@@ -25,28 +19,6 @@ class PortalHotkeyRegistrarTest : public PortalHotkeyTest {
 
   bool becomesOffered(Offer offer) const {
     return waitUntil([&] { return registrar->offer() == offer; });
-  }
-
-  /// What the bus starts takes its time; the test takes the name in its stead.
-  void letTheBusStartPortals(const QByteArray &command, const QDBusConnection &connection) const {
-    ProgramEnvironment::write(
-        bus.serviceDirectory() + QStringLiteral("/portal.service"),
-        "[D-BUS Service]\nName=org.freedesktop.portal.Desktop\nExec=" + command + '\n');
-    require(QStringLiteral("a portal that can be started"), [&] {
-      return connection.interface()->activatableServiceNames().value().contains(
-          QStringLiteral("org.freedesktop.portal.Desktop"));
-    });
-  }
-
-  /// Ends the portal, and waits until the bus has been made to start another one.
-  void letPortalBeStartedAnew() {
-    const QTemporaryDir directory;
-    const QString sign = directory.filePath(QStringLiteral("started"));
-    letTheBusStartPortals("/bin/sh -c 'touch " + sign.toUtf8() + "; sleep 20'", freshConnection());
-    portal.reset();
-    require(QStringLiteral("the portal's start"), [&] { return QFile::exists(sign); });
-    EXPECT_EQ(registrar->offer(), Offer::unknown);
-    startPortal();
   }
 
   /// What the portal has been asked for, once it has answered all of it.

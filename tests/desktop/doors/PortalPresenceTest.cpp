@@ -1,4 +1,10 @@
 #include "desktop/doors/PortalHotkeyRegistrarTest.h"
+#include "support/ProgramEnvironment.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
+#include <QtDBus/QDBusConnectionInterface>
+#include <QtDBus/QDBusReply>
 
 namespace lanternix {
 namespace {
@@ -8,7 +14,30 @@ using namespace std::chrono_literals;
 using testing::ElementsAre;
 
 /// Whether there is a portal, and what becomes of the shortcut as it comes and goes.
-using PortalPresenceTest = PortalHotkeyRegistrarTest;
+class PortalPresenceTest : public PortalHotkeyRegistrarTest {
+ protected:
+  /// What the bus starts takes its time; the test takes the name in its stead.
+  void letTheBusStartPortals(const QByteArray &command, const QDBusConnection &connection) const {
+    ProgramEnvironment::write(
+        bus.serviceDirectory() + u"/portal.service"_s,
+        "[D-BUS Service]\nName=org.freedesktop.portal.Desktop\nExec=" + command + '\n');
+    require(u"a portal that can be started"_s, [&] {
+      return connection.interface()->activatableServiceNames().value().contains(
+          u"org.freedesktop.portal.Desktop"_s);
+    });
+  }
+
+  /// Ends the portal, and waits until the bus has been made to start another one.
+  void letPortalBeStartedAnew() {
+    const QTemporaryDir directory;
+    const QString sign = directory.filePath(u"started"_s);
+    letTheBusStartPortals("/bin/sh -c 'touch " + sign.toUtf8() + "; sleep 20'", freshConnection());
+    portal.reset();
+    require(u"the portal's start"_s, [&] { return QFile::exists(sign); });
+    EXPECT_EQ(registrar->offer(), Offer::unknown);
+    startPortal();
+  }
+};
 
 const QString defaultTrigger = u"SHIFT+LOGO+space"_s;
 

@@ -11,6 +11,7 @@
 #include "Views/Settings/SettingsView.h"
 
 #include <QtGui/QKeyEvent>
+#include <QtGui/QScreen>
 #include <QtGui/QWindow>
 #include <QtWidgets/QAbstractButton>
 #include <QtWidgets/QApplication>
@@ -74,10 +75,12 @@ void AppDelegate::setupPanel() {
   connect(m_panel.get(), &FloatingPanel::didEndLiveResize, this, &AppDelegate::storePanelSize);
   connect(m_panel.get(), &FloatingPanel::closeRequested, &m_appState, &AppState::hidePanel);
 
-  // Wherever Qt and the window manager have moved the panel, they have kept the size that it had in
-  // the pixels of the screen that went. Queued, so that they have done so by then.
-  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AppDelegate::followLostScreen,
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AppDelegate::followScreens,
           Qt::QueuedConnection);
+  connect(qGuiApp, &QGuiApplication::screenAdded, this, &AppDelegate::watchScreen);
+  for (const QScreen *screen : QGuiApplication::screens()) {
+    watchScreen(screen);
+  }
   connect(&m_mouseMonitor, &GlobalMouseMonitor::pressedOutside, this,
           &AppDelegate::hideOnPressOutside);
   connect(&m_appState, &AppState::isPanelVisibleChanged, &m_mouseMonitor,
@@ -112,7 +115,15 @@ void AppDelegate::placePanel() {
   }
 }
 
-void AppDelegate::followLostScreen() {
+void AppDelegate::watchScreen(const QScreen *screen) {
+  connect(screen, &QScreen::geometryChanged, this, &AppDelegate::followScreens,
+          Qt::QueuedConnection);
+}
+
+/// Wherever Qt and the window manager have moved the panel by now, they have kept the size that it
+/// had in the pixels of a screen that is gone, or have made it fit into one that has become
+/// smaller.
+void AppDelegate::followScreens() {
   if (m_panel->isVisible()) {
     placePanel();
   }

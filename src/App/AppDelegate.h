@@ -10,6 +10,7 @@
 #include <memory>
 
 class QKeyEvent;
+class QScreen;
 
 namespace lanternix {
 
@@ -53,7 +54,8 @@ class AppDelegate : public QObject {
   void setupPanel();
   void hideOnPressOutside();
   void placePanel();
-  void followLostScreen();
+  void watchScreen(const QScreen *screen);
+  void followScreens();
   void storePanelSize();
   bool handleKey(const QKeyEvent &press);
   /// The panel's frame on a work area: in the middle, 60 pixels up.

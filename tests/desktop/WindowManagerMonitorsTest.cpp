@@ -106,6 +106,25 @@ TEST_F(WindowManagerMonitorsTest, MonitorUnpluggedUnderThePanel_IsSurvived) {
   EXPECT_EQ(session().home().preference(u"panelWidth"_s), std::nullopt) << "nobody has resized it";
 }
 
+TEST_F(WindowManagerMonitorsTest, ResolutionLoweredUnderThePanel_ChangesItOnlyForTheTime) {
+  constexpr QSize large{1100, 850};
+  session().home().writePreferences("panelWidth=1100\npanelHeight=850");
+  startHidden(commands({u"Build"_s}));
+  const auto left = workOn(leftMonitor);
+  showByShortcut();
+  ASSERT_TRUE(waitUntil([&] { return frame().size() == large; })) << place();
+  constexpr QSize small{800, 600};
+  monitors.plugIn(leftOutput, {{0, 0}, small});
+  // Where is another matter: icewm lets the shadow take up room on the screen too.
+  EXPECT_TRUE(waitUntil([&] { return frame().size() == small; })) << place();
+  program().settle();
+  EXPECT_FALSE(
+      waitUntil([&] { return session().home().preference(u"panelWidth"_s) != u"1100"_s; },
+                std::chrono::milliseconds(500)));  // longer than a hand's resizing is waited out
+  monitors.plugIn(leftOutput, leftMonitor);
+  EXPECT_TRUE(waitUntil([&] { return frame().size() == large; })) << place();
+}
+
 TEST_F(WindowManagerMonitorsTest, MonitorPluggedInAgain_IsUsedAgain) {
   startHidden(commands({u"Build"_s}));
   monitors.unplug(rightOutput);

@@ -35,6 +35,16 @@ int storedLength(const UserDefaults &userDefaults, const Preference<double> &pre
   return static_cast<int>(std::min<double>(length, std::max<double>(available, floor)));
 }
 
+/// What may have the keyboard while \p window is in front: not a window under a question or an
+/// editor. Over those in turn the desktop's own file dialog leaves an invisible one.
+QWindow &frontWindow(QWindow &window) {
+  QWindow *front = QGuiApplication::modalWindow();
+  while (front != nullptr && !front->isVisible()) {
+    front = front->transientParent();
+  }
+  return front != nullptr ? *front : window;
+}
+
 }  // namespace
 
 AppDelegate::AppDelegate(const Doors &doors, WindowSystem &windowSystem,
@@ -135,11 +145,7 @@ void AppDelegate::openSettings() {
     m_settings = std::make_unique<SettingsView>(m_appState, m_loginItem, m_fileChooser);
   }
   m_settings->present();
-  // A window under a question or an editor may not have the keyboard. The desktop's own file dialog
-  // leaves an invisible one, which cannot have it either.
-  QWindow *dialog = QGuiApplication::modalWindow();
-  const bool isCovered = dialog != nullptr && dialog->isVisible();
-  m_windowSystem.activate(isCovered ? *dialog : *m_settings->windowHandle());
+  m_windowSystem.activate(frontWindow(*m_settings->windowHandle()));
   // Not before: it would count as the answer to who asks for the settings.
   if (m_panel && m_panel->isVisible()) {
     m_appState.hidePanel();

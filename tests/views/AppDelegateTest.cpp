@@ -95,6 +95,19 @@ TEST_F(SettingsAnswerTest, DialogOfTheDesktopOverTheSettings_LeavesTheAnswerToTh
   EXPECT_EQ(recorder.answered, u"Lanternix Settings"_s);
 }
 
+TEST_F(SettingsAnswerTest, EditorUnderADialogOfTheDesktop_IsTheAnswer) {
+  askForSettings();
+  QDialog editor(settings());
+  editor.setWindowTitle(u"Editor"_s);
+  editor.open();
+  QDialog outside(&editor);
+  outside.setAttribute(Qt::WA_DontShowOnScreen);
+  outside.open();
+  ASSERT_EQ(QGuiApplication::modalWindow(), outside.windowHandle());
+  askForSettings();
+  EXPECT_EQ(recorder.answered, u"Editor"_s);
+}
+
 TEST_F(AppDelegateTest, ToggleBeforeThePanelShowsItself_ShowsItAndItStays) {
   delegate = std::make_unique<AppDelegate>(doors(), windowSystem, mouseMonitor, loginItem);
   delegate->applicationDidFinishLaunching();

@@ -109,6 +109,7 @@ void FloatingPanel::setFrame(const QRect &frame) {
 }
 
 void FloatingPanel::awaitPlace() {
+  m_resizePause.stop();  // nobody's wish any more
   m_hasBeenSeen = false;
   m_hasHadItsSize = false;
   m_isInPlace = false;
@@ -217,6 +218,7 @@ void FloatingPanel::mousePressEvent(QMouseEvent *event) {
 }
 
 void FloatingPanel::mouseMoveEvent(QMouseEvent *event) {
+  m_isDragged = m_isDragged && event->buttons().testFlag(Qt::LeftButton);
   if (m_isDragged) {
     const QPoint position = m_windowSystem.pointerPosition(*event) - m_dragOffset;
     m_windowSystem.setGeometry(*windowHandle(), {position, size()});

@@ -45,7 +45,9 @@ class FloatingPanel : public QWidget {
  Q_SIGNALS:
   /// The window has got the keyboard.
   void didBecomeKey();
-  /// The user has finished resizing the window.
+  /// The user has finished resizing the window, by an edge or by the window manager's own means.
+  /// The latter cannot be told from a window manager that refuses the panel its size, and do not
+  /// count before it has had that or been resized by an edge.
   void didEndLiveResize();
   /// The window manager was asked to close the window, which stays as it is.
   void closeRequested();

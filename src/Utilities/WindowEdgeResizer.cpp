@@ -53,7 +53,10 @@ Qt::Edges WindowEdgeResizer::edgesAt(const QPoint &position) const {
 bool WindowEdgeResizer::eventFilter(QObject * /*watched*/, QEvent *event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
-      return press(*static_cast<QMouseEvent *>(event));
+      m_tookPress = press(*static_cast<QMouseEvent *>(event));
+      return m_tookPress;
+    case QEvent::MouseButtonDblClick:  // follows the press that it is about
+      return m_tookPress;
     case QEvent::MouseMove:
       return move(*static_cast<QMouseEvent *>(event));
     case QEvent::MouseButtonRelease:
@@ -90,6 +93,9 @@ bool WindowEdgeResizer::press(const QMouseEvent &event) {
 }
 
 bool WindowEdgeResizer::move(const QMouseEvent &event) {
+  if (!event.buttons().testFlag(Qt::LeftButton)) {
+    endResizing();  // the release went to a menu that was opened meanwhile
+  }
   if (m_resizing) {
     const QPoint position = m_windowSystem.pointerPosition(event);
     m_windowSystem.setGeometry(m_window, resized(position - m_pressPosition));

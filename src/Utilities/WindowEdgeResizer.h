@@ -48,6 +48,7 @@ class WindowEdgeResizer : public QObject {
   WindowSystem &m_windowSystem;
   QWindow &m_window;
   QMargins m_margins;
+  bool m_tookPress = false;
   bool m_resizing = false;
   bool m_showsCursor = false;
   Qt::Edges m_edges;

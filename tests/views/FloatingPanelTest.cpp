@@ -174,6 +174,39 @@ TEST_F(FloatingPanelTest, GivenAFrameAfterItsWindowGotAnotherSize_DoesNotTakeTha
   EXPECT_EQ(resized.count(), 0);
 }
 
+TEST_F(FloatingPanelTest, GivenAFrameRightAfterItsWindowGotAnotherSize_ForgetsThatOne) {
+  const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
+  QCoreApplication::processEvents();
+  panel.windowHandle()->resize(1000, 800);
+  QCoreApplication::processEvents();
+  panel.setFrame({10, 20, 500, 400});
+  panel.windowHandle()->resize(1000, 800);  // once more, by a slow window manager
+  QCoreApplication::processEvents();
+  panel.orderOut();
+  EXPECT_EQ(resized.count(), 0);
+}
+
+TEST_F(FloatingPanelTest, DoubleClickOnAnEdge_LeavesTheBackgroundAlone) {
+  QTest::mouseDClick(panel.windowHandle(), Qt::LeftButton, {}, {498, 200});
+  const QPoint background = positionOf({250, 200});
+  press(Qt::RightButton, background);
+  move(background + QPoint(30, 20));
+  EXPECT_EQ(panel.geometry(), QRect(100, 50, 500, 400));
+}
+
+// As by a menu that is opened by a key meanwhile.
+TEST_F(FloatingPanelTest, EdgeWhoseReleaseGoesElsewhere_IsLetGoAtTheNextMove) {
+  const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
+  const QPoint edge = positionOf({498, 200});
+  press(Qt::LeftButton, edge);
+  move(edge + QPoint(30, 0));
+  QMouseEvent later(QEvent::MouseMove, QPointF(300, 200), positionOf({300, 200}), Qt::NoButton,
+                    Qt::NoButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(panel.windowHandle(), &later);
+  EXPECT_EQ(panel.geometry(), QRect(100, 50, 530, 400));
+  EXPECT_EQ(resized.count(), 1);
+}
+
 TEST_F(FloatingPanelTest, AnotherButtonMeanwhile_LeavesTheEdgeHeld) {
   // No narrower than it may be, so that the pointer leaves the edge.
   dragWithAnotherButton({498, 200}, {-200, 0}, {30, 20});

@@ -55,6 +55,9 @@ class WindowProbe {
 
   /// Asks the window manager, as a program does for a window of its own, to put it on top.
   void raise(xcb_window_t window);
+  /// Tells the window manager that the window's program has hidden it. Returns once the window
+  /// manager takes it for hidden.
+  void withdraw(xcb_window_t window);
 
   /// The picture of a viewable window as it is on the screen. A null image when there is none.
   QImage grab(xcb_window_t window) const;

@@ -15,6 +15,9 @@ namespace {
 constexpr quint32 sourcePager = 2;  // an action of the user, not a wish of the program
 constexpr quint32 everyDesktop = 0xFFFFFFFF;
 constexpr quint8 bitsPerItem = 32;
+// The states of a window as its window manager keeps them.
+constexpr quint32 withdrawnState = 0;
+constexpr quint32 normalState = 1;
 
 xcb_window_t nativeWindow(const QWindow &window) {
   return static_cast<xcb_window_t>(window.winId());
@@ -50,6 +53,7 @@ X11WindowSystem::X11WindowSystem(const X11Server &server, X11EventTime &eventTim
       m_atoms(server),
       m_compositor(server, m_atoms) {
   connect(&m_compositor, &X11Compositor::changed, this, &WindowSystem::compositingChanged);
+  connect(&m_recovery, &X11PanelRecovery::mayBeLost, this, &X11WindowSystem::bringBack);
 }
 
 QScreen *X11WindowSystem::activeScreen() const {
@@ -89,12 +93,18 @@ void X11WindowSystem::preparePanel(QWindow &window) {
   const xcb_window_t panel = nativeWindow(window);
   // A window manager that has not yet carried out the last hiding would wipe what is written now.
   comesTrue([&] { return !isManaged(panel); });
+  m_panel = panel;
+  m_recovery.noteShow(window);
+  setMarks(panel);
+}
 
+/// What a window manager reads when it is asked to show the window, and wipes when it is told that
+/// the window is hidden.
+void X11WindowSystem::setMarks(xcb_window_t panel) {
   const std::array types{m_atoms[X11Atoms::netWmWindowTypeUtility]};
   const std::array states{m_atoms[X11Atoms::netWmStateAbove], m_atoms[X11Atoms::netWmStateSticky],
                           m_atoms[X11Atoms::netWmStateSkipTaskbar],
                           m_atoms[X11Atoms::netWmStateSkipPager]};
-  m_panel = panel;
   xcb_connection_t *connection = m_server.connection();
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, panel, m_atoms[X11Atoms::netWmWindowType],
                       XCB_ATOM_ATOM, bitsPerItem, types.size(), types.data());
@@ -110,18 +120,33 @@ void X11WindowSystem::preparePanel(QWindow &window) {
 /// manager takes the hiding for the last word.
 void X11WindowSystem::prepareHiding(QWindow &window) {
   m_keyboardHold.end();
+  m_recovery.noteHiding();
   const xcb_window_t panel = nativeWindow(window);
   comesTrue([&] { return isViewable(panel) && (isManaged(panel) || !hasWindowManager()); });
   m_startupNotification.end();
 }
 
+/// For Qt the panel has never gone, so this is asked of the server itself. A window manager may
+/// have left the lost window on the screen or made an icon of it: all of them show one that is
+/// hidden.
+void X11WindowSystem::bringBack(QWindow &panel) {
+  const xcb_window_t window = nativeWindow(panel);
+  if (!hasWindowManager() || managedState(window) == normalState) {
+    return;
+  }
+  setMarks(window);
+  xcb_unmap_window(m_server.connection(), window);
+  xcb_map_window(m_server.connection(), window);
+  activate(panel);
+}
+
 void X11WindowSystem::activate(QWindow &window) {
   m_keyboardHold.passTo(window);
-  const xcb_window_t panel = nativeWindow(window);
+  const xcb_window_t native = nativeWindow(window);
   if (hasWindowManager()) {
-    askForActivation(panel);
+    askForActivation(native);
   } else {
-    raiseAndFocus(panel);
+    raiseAndFocus(native);
   }
   xcb_flush(m_server.connection());
   m_startupNotification.end();
@@ -191,14 +216,19 @@ bool X11WindowSystem::hasWindowManager() const {
   return check && windowProperty(*check, X11Atoms::netSupportingWmCheck) == check;
 }
 
-bool X11WindowSystem::isManaged(xcb_window_t window) const {
-  constexpr quint32 withdrawnState = 0;
+/// As the window manager tells it.
+quint32 X11WindowSystem::managedState(xcb_window_t window) const {
   const auto reply =
       awaitReply(xcb_get_property_reply, m_server,
                  xcb_get_property(m_server.connection(), 0, window, m_atoms[X11Atoms::wmState],
                                   m_atoms[X11Atoms::wmState], 0, 1));
-  return reply && reply->format == bitsPerItem && reply->value_len == 1 &&
-         *static_cast<const quint32 *>(xcb_get_property_value(reply.get())) != withdrawnState;
+  const bool isTold = reply && reply->format == bitsPerItem && reply->value_len == 1;
+  return isTold ? *static_cast<const quint32 *>(xcb_get_property_value(reply.get()))
+                : withdrawnState;
+}
+
+bool X11WindowSystem::isManaged(xcb_window_t window) const {
+  return managedState(window) != withdrawnState;
 }
 
 bool X11WindowSystem::isViewable(xcb_window_t window) const {

@@ -3,6 +3,7 @@
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Platform/Linux/X11Atoms.h"
 #include "Platform/Linux/X11Compositor.h"
+#include "Platform/Linux/X11PanelRecovery.h"
 #include "Platform/Linux/X11StartupNotification.h"
 
 #include <QtCore/QRect>
@@ -35,8 +36,11 @@ class X11WindowSystem : public QtWindowSystem {
   std::optional<xcb_window_t> windowProperty(xcb_window_t window, X11Atoms::Name property) const;
   std::optional<QPoint> activeWindowCentre() const;
   bool hasWindowManager() const;
+  quint32 managedState(xcb_window_t window) const;
   bool isManaged(xcb_window_t window) const;
   bool isViewable(xcb_window_t window) const;
+  void setMarks(xcb_window_t window);
+  void bringBack(QWindow &panel);
   void raiseAndFocus(xcb_window_t window);
   void askForActivation(xcb_window_t window);
   void setUserTime(xcb_window_t window);
@@ -50,6 +54,7 @@ class X11WindowSystem : public QtWindowSystem {
   mutable X11Atoms m_atoms;
   X11StartupNotification m_startupNotification{m_server, m_atoms};
   X11Compositor m_compositor;
+  X11PanelRecovery m_recovery{m_atoms};
   /// The window prepared last.
   xcb_window_t m_panel = XCB_WINDOW_NONE;
 };

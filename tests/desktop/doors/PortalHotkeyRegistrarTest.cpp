@@ -49,7 +49,7 @@ TEST_F(PortalHotkeyRegistrarTest, TokenOfAPress_ComesBeforeThePress) {
   startPortal();
   startProgram();
   QStringList tokens;
-  QObject::connect(registrar.get(), &PortalHotkeyRegistrar::tokenReceived,
+  QObject::connect(registrar.get(), &PortalHotkeyRegistrar::tokenReceived, registrar.get(),
                    [&](const QString &token) {
                      EXPECT_EQ(presses, 1);
                      tokens.append(token);

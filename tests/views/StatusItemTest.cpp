@@ -2,6 +2,7 @@
 #include "Views/MenuBar/StatusItem.h"
 #include "views/ViewTest.h"
 
+#include <QtCore/QLoggingCategory>
 #include <QtTest/QSignalSpy>
 #include <QtWidgets/QApplication>
 
@@ -67,6 +68,7 @@ TEST_F(StatusItemTest, TrayOfAnotherKind_IsToldOfInTheLog) {
   const StatusItem item(*state, tray);
   tray.become(SystemTray::Kind::embedding);
   tray.become(SystemTray::Kind::none);
+  QLoggingCategory::setFilterRules(u"lanternix.tray.info=true"_s);
   static QStringList log;
   const QtMessageHandler usual =
       qInstallMessageHandler([](QtMsgType, const QMessageLogContext &context, const QString &) {
@@ -76,6 +78,7 @@ TEST_F(StatusItemTest, TrayOfAnotherKind_IsToldOfInTheLog) {
   EXPECT_FALSE(log.contains(u"lanternix.tray"_s));
   tray.become(SystemTray::Kind::drawing);
   qInstallMessageHandler(usual);
+  QLoggingCategory::setFilterRules({});
   EXPECT_EQ(log.count(u"lanternix.tray"_s), 1);
   EXPECT_EQ(menus(), 1);
 }

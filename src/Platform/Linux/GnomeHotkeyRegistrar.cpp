@@ -41,7 +41,7 @@ bool GnomeHotkeyRegistrar::isAvailable() {
   }
   const bool hasTool = !QStandardPaths::findExecutable(tool).isEmpty();
   if (!hasTool) {
-    qCWarning(hotkeyLog) << "There is no" << tool << "for GNOME to call the program by";
+    qCInfo(hotkeyLog) << "There is no" << tool << "for GNOME to call the program by";
   }
   return hasTool;
 }

@@ -24,8 +24,8 @@ class QtWindowSystem : public WindowSystem {
   bool isComposited() const override;
   void setFrame(QWindow &window, const Frame &frame) override;
 
-  /// The screen that holds the active window, else the one under the pointer, else the primary
-  /// one. Null only without any screen.
+  /// The screen that the user works on: that of the active window where it can be told, else the
+  /// one under the pointer, else the primary one. Null only without any screen.
   virtual QScreen *activeScreen() const;
 
  private:

@@ -35,9 +35,10 @@ void StatusItem::showWhereThereIsATray() {
   }
   if (m_icon) {
     if (kind != m_kind) {
-      // Perhaps for a moment only, while the tray of this kind is being started anew.
-      qCWarning(statusItem) << "The icon waits for a tray of the kind that it was made for; in the"
-                            << "one that is there now it appears after a new start of the program";
+      // Perhaps for a moment only, while the tray of this kind is being started anew, or there are
+      // both.
+      qCInfo(statusItem) << "The icon waits for a tray of the kind that it was made for; in the"
+                         << "one that is there now it appears after a new start of the program";
     }
     return;
   }

@@ -13,6 +13,7 @@ void WaylandWindowSystem::preparePanel(QWindow &window) {
 }
 
 bool WaylandWindowSystem::takeDrag(QWindow &window, Qt::Edges edges, QPoint /*position*/) {
+  releaseSize();  // a compositor may have refused the keyboard
   return edges == Qt::Edges{} ? window.startSystemMove() : window.startSystemResize(edges);
 }
 

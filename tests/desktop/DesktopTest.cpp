@@ -54,6 +54,8 @@ void DesktopTest::pressShortcut() {
 }
 
 void DesktopTest::showByShortcut() {
+  require(u"a window with the keyboard"_s,
+          [this] { return session().windows().isKeyboardInUse(); });
   pressShortcut();
   m_program->waitForPanel();
 }

@@ -102,10 +102,18 @@ bool WindowProbe::hasPosition(xcb_window_t window) const {
   return (m_connection.number(window, "WM_NORMAL_HINTS") & userOrProgramPositionFlags) != 0;
 }
 
-bool WindowProbe::hasFocus(xcb_window_t window) const {
+xcb_window_t WindowProbe::focus() const {
   const XReply<xcb_get_input_focus_reply_t> reply(
       xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
-  xcb_window_t focused = reply ? reply->focus : xcb_window_t{XCB_WINDOW_NONE};
+  return reply ? reply->focus : xcb_window_t{XCB_INPUT_FOCUS_NONE};
+}
+
+bool WindowProbe::isKeyboardInUse() const {
+  return focus() != XCB_INPUT_FOCUS_NONE;
+}
+
+bool WindowProbe::hasFocus(xcb_window_t window) const {
+  xcb_window_t focused = focus();
   while (focused > XCB_INPUT_FOCUS_POINTER_ROOT && focused != m_connection.root()) {
     if (focused == window) {
       return true;

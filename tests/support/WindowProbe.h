@@ -46,6 +46,9 @@ class WindowProbe {
 
   /// The window whose descendant, or which itself, has the keyboard.
   bool hasFocus(xcb_window_t window) const;
+  /// Whether any window has the keyboard, or the one under the pointer. Else the server throws keys
+  /// away, shortcuts too, as for a moment after some window managers have hidden a window.
+  bool isKeyboardInUse() const;
   /// As the window manager names it.
   xcb_window_t activeWindow() const;
   /// The windows that the window manager lists for taskbars.
@@ -70,6 +73,7 @@ class WindowProbe {
   const XConnection &connection() const { return m_connection; }
 
  private:
+  xcb_window_t focus() const;
   QList<xcb_window_t> children(xcb_window_t window) const;
   xcb_window_t parent(xcb_window_t window) const;
   xcb_window_t topLevel(xcb_window_t window) const;

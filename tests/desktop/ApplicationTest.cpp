@@ -26,30 +26,13 @@ class ApplicationTest : public DesktopTest {
   static QString startupId(quint32 time) { return u"menu-7-host_TIME%1"_s.arg(time); }
   /// What a program says when the wait that goes by \p id is over.
   static QString ending(const QString &id) { return u"remove: ID=\"%1\""_s.arg(id); }
-  /// The server's time now.
-  quint32 serverTime() { return eventTime(session().displayName()); }
+  quint32 serverTime() { return XConnection(session().displayName()).time(); }
   quint32 userTime() {
     return session().windows().connection().number(program().panel(), "_NET_WM_USER_TIME");
   }
 
   DesktopShell shell{session().bus()->address()};
   StartupListener startups{session().displayName()};
-
- private:
-  /// The time that the server puts on a change of a property.
-  static quint32 eventTime(const QString &displayName) {
-    const XConnection connection(displayName);
-    const xcb_window_t window = xcb_generate_id(connection);
-    const quint32 events = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, connection.root(), 0, 0, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
-                      &events);
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NAME,
-                        XCB_ATOM_STRING, 8, 1, "x");
-    xcb_flush(connection);
-    const XReply<xcb_generic_event_t> event(xcb_wait_for_event(connection));
-    return reinterpret_cast<const xcb_property_notify_event_t &>(*event).time;
-  }
 };
 
 TEST_F(ApplicationTest, Activate_ShowsAUsablePanelOverAnotherProgram) {

@@ -62,6 +62,19 @@ quint32 XConnection::number(xcb_window_t window, const char *name, quint32 fallb
   return value;
 }
 
+quint32 XConnection::time() const {
+  const xcb_window_t window = xcb_generate_id(*this);
+  const quint32 events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+  xcb_create_window(*this, XCB_COPY_FROM_PARENT, window, root(), 0, 0, 1, 1, 0,
+                    XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
+  xcb_change_property(*this, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 1,
+                      "x");
+  xcb_flush(*this);
+  const XReply<xcb_generic_event_t> event(xcb_wait_for_event(*this));
+  xcb_destroy_window(*this, window);
+  return reinterpret_cast<const xcb_property_notify_event_t &>(*event).time;
+}
+
 void XConnection::sync() const {
   const XReply<xcb_get_input_focus_reply_t> reply(
       xcb_get_input_focus_reply(get(), xcb_get_input_focus(get()), nullptr));

@@ -8,8 +8,8 @@ namespace lanternix {
 /// proof that a window asks for the keyboard because of that action.
 class X11EventTime {
  public:
-  /// 0, which stands for the present, when the last action is too long ago to be what the program
-  /// answers to: an old time would be taken as proof of the contrary.
+  /// 0 when the last action is too long ago to be what the program answers to: an old time would be
+  /// taken as proof of the contrary.
   quint32 recent() const {
     constexpr qint64 longestAnswer = 1000;  // milliseconds
     return m_age.isValid() && !m_age.hasExpired(longestAnswer) ? m_last : 0;

@@ -1,12 +1,11 @@
 #include "Platform/Linux/X11GrabGuard.h"
 
+#include "Platform/Linux/X11ServerTime.h"
+
 #include <QtCore/QLoggingCategory>
 
-#include <algorithm>
 #include <array>
-#include <cstring>
 #include <limits>
-#include <string_view>
 
 namespace lanternix {
 namespace {
@@ -30,34 +29,12 @@ xcb_sync_waitcondition_t reaches(xcb_sync_counter_t counter, xcb_sync_valuetype_
           .event_threshold = split(std::numeric_limits<qint64>::max())};
 }
 
-/// XCB_NONE where there is no counter of that name. xcb's own iterator cannot be used: it takes the
-/// fixed part of an entry for two bytes longer than it is, which the padding hides only behind
-/// names of some lengths.
-xcb_sync_counter_t counterNamed(std::string_view wanted,
-                                const xcb_sync_list_system_counters_reply_t &reply) {
-  constexpr std::size_t unit = 4;
-  constexpr std::size_t fixedPart = 14;  // the counter, its resolution, the length of its name
-  std::string_view rest(reinterpret_cast<const char *>(&reply + 1), reply.length * unit);
-  for (quint32 i = 0; i < reply.counters_len && rest.size() >= fixedPart; ++i) {
-    xcb_sync_counter_t counter = XCB_NONE;
-    quint16 nameLength = 0;
-    std::memcpy(&counter, rest.data(), sizeof counter);
-    std::memcpy(&nameLength, rest.data() + fixedPart - sizeof nameLength, sizeof nameLength);
-    if (rest.substr(fixedPart, nameLength) == wanted) {
-      return counter;
-    }
-    const std::size_t size = (fixedPart + nameLength + unit - 1) / unit * unit;
-    rest.remove_prefix(std::min(size, rest.size()));
-  }
-  return XCB_NONE;
-}
-
 }  // namespace
 
 X11GrabGuard::X11GrabGuard(const X11Server &server)
     : m_server(server), m_connection(xcb_connect(nullptr, nullptr)) {
   if (xcb_connection_has_error(m_connection.get()) == 0) {
-    m_serverTime = findServerTime();
+    m_serverTime = X11ServerTime(m_connection.get()).counter();
   }
   if (m_serverTime == XCB_NONE) {
     qCWarning(keyboardLog) << "The server cannot limit a grab of the keyboard: letters typed before"
@@ -68,20 +45,6 @@ X11GrabGuard::X11GrabGuard(const X11Server &server)
 }
 
 X11GrabGuard::~X11GrabGuard() = default;
-
-xcb_sync_counter_t X11GrabGuard::findServerTime() const {
-  xcb_connection_t *connection = m_connection.get();
-  const auto *extension = xcb_get_extension_data(connection, &xcb_sync_id);
-  if (extension == nullptr || extension->present == 0) {
-    return XCB_NONE;
-  }
-  xcb_discard_reply(
-      connection,
-      xcb_sync_initialize(connection, XCB_SYNC_MAJOR_VERSION, XCB_SYNC_MINOR_VERSION).sequence);
-  const X11Reply<xcb_sync_list_system_counters_reply_t> reply(xcb_sync_list_system_counters_reply(
-      connection, xcb_sync_list_system_counters(connection), nullptr));
-  return reply ? counterNamed("SERVERTIME", *reply) : xcb_sync_counter_t{XCB_NONE};
-}
 
 /// The window is inside another one, so that no window manager hears of its coming and going.
 void X11GrabGuard::makeWindow() {

@@ -35,7 +35,6 @@ class X11GrabGuard {
     void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
   };
 
-  xcb_sync_counter_t findServerTime() const;
   void makeWindow();
   void dropEvents();
   xcb_window_t makeInvisibleWindow(xcb_window_t parent) const;

@@ -169,7 +169,7 @@ void X11WindowSystem::askForActivation(xcb_window_t window) {
   if (window == m_panel) {
     addMarks(window);
   }
-  sendToWindowManager(window, X11Atoms::netActiveWindow, {sourcePager, m_eventTime.recent()});
+  sendToWindowManager(window, X11Atoms::netActiveWindow, {sourcePager, userTime()});
 }
 
 void X11WindowSystem::setFrame(QWindow &window, const Frame &frame) {
@@ -237,8 +237,15 @@ bool X11WindowSystem::isViewable(xcb_window_t window) const {
   return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
+/// Of what the program answers to. Where that is no event of the server's, such as the program's
+/// start, it is now: of no time at all, some window managers keep the keyboard from the window.
+quint32 X11WindowSystem::userTime() const {
+  const quint32 recent = m_eventTime.recent();
+  return recent != 0 ? recent : m_serverTime.now();
+}
+
 void X11WindowSystem::setUserTime(xcb_window_t window) {
-  const quint32 time = m_eventTime.recent();
+  const quint32 time = userTime();
   if (time != 0) {  // which would say that the window does not want the keyboard
     xcb_change_property(m_server.connection(), XCB_PROP_MODE_REPLACE, window,
                         m_atoms[X11Atoms::netWmUserTime], XCB_ATOM_CARDINAL, bitsPerItem, 1, &time);

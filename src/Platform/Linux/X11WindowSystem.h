@@ -4,6 +4,7 @@
 #include "Platform/Linux/X11Atoms.h"
 #include "Platform/Linux/X11Compositor.h"
 #include "Platform/Linux/X11PanelRecovery.h"
+#include "Platform/Linux/X11ServerTime.h"
 #include "Platform/Linux/X11StartupNotification.h"
 
 #include <QtCore/QRect>
@@ -43,6 +44,7 @@ class X11WindowSystem : public QtWindowSystem {
   void bringBack(QWindow &panel);
   void raiseAndFocus(xcb_window_t window);
   void askForActivation(xcb_window_t window);
+  quint32 userTime() const;
   void setUserTime(xcb_window_t window);
   void addMarks(xcb_window_t window);
   void sendToWindowManager(xcb_window_t window, X11Atoms::Name type,
@@ -51,6 +53,7 @@ class X11WindowSystem : public QtWindowSystem {
   const X11Server &m_server;
   X11EventTime &m_eventTime;
   X11KeyboardHold &m_keyboardHold;
+  const X11ServerTime m_serverTime{m_server.connection()};
   mutable X11Atoms m_atoms;
   X11StartupNotification m_startupNotification{m_server, m_atoms};
   X11Compositor m_compositor;

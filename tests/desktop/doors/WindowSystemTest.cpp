@@ -72,6 +72,8 @@ class ManagedX11WindowSystemTest : public X11WindowSystemTest {
            windows.desktop(native()) == 0xFFFFFFFF && windows.isViewable(native());
   }
 
+  quint32 userTime() const { return windows.connection().number(native(), "_NET_WM_USER_TIME"); }
+
   WindowManager windowManager{testDisplay()};
 };
 
@@ -80,6 +82,21 @@ TEST_F(ManagedX11WindowSystemTest, ShownPanel_IsMarkedAsPanel) {
   EXPECT_TRUE(waitUntil([&] { return isMarkedAsPanel(); }))
       << windows.states(native()).join(u' ').toStdString();
   EXPECT_THAT(windows.types(native()), testing::Contains(u"_NET_WM_WINDOW_TYPE_UTILITY"_s));
+}
+
+TEST_F(ManagedX11WindowSystemTest, PanelShownWithoutAnAction_IsShownAsOfNow) {
+  const XConnection connection(testDisplay().name());
+  const quint32 before = connection.time();
+  showPanel();
+  EXPECT_TRUE(waitUntil([&] { return userTime() >= before; }));
+  EXPECT_LE(userTime(), connection.time());
+}
+
+TEST_F(ManagedX11WindowSystemTest, PanelShownForAnAction_IsShownAsOfThat) {
+  const quint32 time = XConnection(testDisplay().name()).time() - 1;
+  eventTime.note(time);
+  showPanel();
+  EXPECT_TRUE(waitUntil([&] { return userTime() == time; }));
 }
 
 TEST_F(ManagedX11WindowSystemTest, PanelShownAgain_IsStillMarkedAsPanel) {

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+#include <xcb/sync.h>
+
+namespace lanternix {
+
+/// The clock by which a server stamps its events.
+class X11ServerTime {
+ public:
+  /// Asks the server of \p connection.
+  explicit X11ServerTime(xcb_connection_t *connection);
+
+  /// What to wait for. XCB_NONE where the server has no Synchronization extension.
+  xcb_sync_counter_t counter() const { return m_counter; }
+  /// The present time in milliseconds, as in an event. 0, which stands for the present in requests,
+  /// when the server cannot tell.
+  quint32 now() const;
+
+ private:
+  xcb_connection_t *m_connection;
+  xcb_sync_counter_t m_counter = XCB_NONE;
+};
+
+}  // namespace lanternix

@@ -85,10 +85,9 @@ void AppDelegate::setupPanel() {
   connect(m_panel.get(), &FloatingPanel::didEndLiveResize, this, &AppDelegate::storePanelSize);
   connect(m_panel.get(), &FloatingPanel::closeRequested, &m_appState, &AppState::hidePanel);
 
-  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AppDelegate::followScreens,
-          Qt::QueuedConnection);
+  connect(qGuiApp, &QGuiApplication::screenRemoved, this, &AppDelegate::followScreen);
   connect(qGuiApp, &QGuiApplication::screenAdded, this, &AppDelegate::watchScreen);
-  for (const QScreen *screen : QGuiApplication::screens()) {
+  for (QScreen *screen : QGuiApplication::screens()) {
     watchScreen(screen);
   }
   connect(&m_mouseMonitor, &GlobalMouseMonitor::pressedOutside, this,
@@ -125,18 +124,25 @@ void AppDelegate::placePanel() {
   }
 }
 
-void AppDelegate::watchScreen(const QScreen *screen) {
-  connect(screen, &QScreen::geometryChanged, this, &AppDelegate::followScreens,
-          Qt::QueuedConnection);
+void AppDelegate::watchScreen(QScreen *screen) {
+  const auto follow = [this, screen] { followScreen(screen); };
+  connect(screen, &QScreen::geometryChanged, this, follow);
+  // Of a screen that has become larger, it may be told only later how much of it can be used.
+  connect(screen, &QScreen::availableGeometryChanged, this, follow);
 }
 
-/// Wherever Qt and the window manager have moved the panel by now, they have kept the size that it
-/// had in the pixels of a screen that is gone, or have made it fit into one that has become
-/// smaller.
-void AppDelegate::followScreens() {
-  if (m_panel->isVisible()) {
-    placePanel();
+/// Wherever Qt and the window manager move the panel, they keep the size that it had in the pixels
+/// of a screen that is gone, or make it fit into one that has become smaller.
+void AppDelegate::followScreen(const QScreen *screen) {
+  if (m_panel->screen() != screen) {
+    return;
   }
+  const auto placeIfShown = [this] {
+    if (m_panel->isVisible()) {
+      placePanel();
+    }
+  };
+  QMetaObject::invokeMethod(this, placeIfShown, Qt::QueuedConnection);  // when they have done so
 }
 
 void AppDelegate::openSettings() {

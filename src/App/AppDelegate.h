@@ -54,8 +54,8 @@ class AppDelegate : public QObject {
   void setupPanel();
   void hideOnPressOutside();
   void placePanel();
-  void watchScreen(const QScreen *screen);
-  void followScreens();
+  void watchScreen(QScreen *screen);
+  void followScreen(const QScreen *screen);
   void storePanelSize();
   bool handleKey(const QKeyEvent &press);
   /// The panel's frame on a work area: in the middle, 60 pixels up.

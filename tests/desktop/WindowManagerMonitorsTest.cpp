@@ -123,6 +123,7 @@ TEST_F(WindowManagerMonitorsTest, ResolutionLoweredUnderThePanel_ChangesItOnlyFo
                 std::chrono::milliseconds(500)));  // longer than a hand's resizing is waited out
   monitors.plugIn(leftOutput, leftMonitor);
   EXPECT_TRUE(waitUntil([&] { return frame().size() == large; })) << place();
+  EXPECT_EQ(session().home().preference(u"panelHeight"_s), u"850"_s);
 }
 
 TEST_F(WindowManagerMonitorsTest, MonitorPluggedInAgain_IsUsedAgain) {

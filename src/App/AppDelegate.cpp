@@ -3,6 +3,7 @@
 #include "App/LocalKeyMonitor.h"
 #include "Platform/GlobalMouseMonitor.h"
 #include "Platform/KeyCodes.h"
+#include "Platform/ModalWindow.h"
 #include "Platform/UserDefaults.h"
 #include "Platform/WindowSystem.h"
 #include "Services/Preferences.h"
@@ -33,16 +34,6 @@ int storedLength(const UserDefaults &userDefaults, const Preference<double> &pre
   const double length = stored >= floor ? stored : preference.fallback;
   // A size from a larger screen must not hang over the edges of this one.
   return static_cast<int>(std::min<double>(length, std::max<double>(available, floor)));
-}
-
-/// What may have the keyboard while \p window is in front: not a window under a question or an
-/// editor. Over those in turn the desktop's own file dialog leaves an invisible one.
-QWindow &frontWindow(QWindow &window) {
-  QWindow *front = QGuiApplication::modalWindow();
-  while (front != nullptr && !front->isVisible()) {
-    front = front->transientParent();
-  }
-  return front != nullptr ? *front : window;
 }
 
 }  // namespace
@@ -151,7 +142,8 @@ void AppDelegate::openSettings() {
     m_settings = std::make_unique<SettingsView>(m_appState, m_loginItem, m_fileChooser);
   }
   m_settings->present();
-  m_windowSystem.activate(frontWindow(*m_settings->windowHandle()));
+  QWindow *dialog = modalWindow();
+  m_windowSystem.activate(dialog != nullptr ? *dialog : *m_settings->windowHandle());
   // Not before: it would count as the answer to who asks for the settings.
   if (m_panel && m_panel->isVisible()) {
     m_appState.hidePanel();

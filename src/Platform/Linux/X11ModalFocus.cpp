@@ -1,10 +1,11 @@
 #include "Platform/Linux/X11ModalFocus.h"
 
+#include "Platform/ModalWindow.h"
 #include "Platform/WindowSystem.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
 
 #include <xcb/xcb.h>
@@ -45,7 +46,7 @@ bool X11ModalFocus::nativeEventFilter(const QByteArray & /*eventType*/, void *me
     return false;
   }
   const auto &focus = reinterpret_cast<const xcb_focus_in_event_t &>(event);
-  const QPointer<QWindow> dialog = QGuiApplication::modalWindow();
+  const QPointer<QWindow> dialog = modalWindow();
   if (dialog != nullptr && isLasting(focus) && isBlocking(*dialog, focus.event)) {
     // Later, when the press that has brought the keyboard here has been dealt with.
     QTimer::singleShot(0, this, [this, dialog] {

@@ -1,6 +1,8 @@
 #include "desktop/WindowManagerTest.h"
 #include "support/BusyScreen.h"
+#include "support/DesktopShell.h"
 #include "support/ProgramPing.h"
+#include "support/SuspendedProcess.h"
 
 #include <X11/keysym.h>
 
@@ -65,12 +67,33 @@ TEST_F(WindowManagerFocusTest, PanelTakenForHiddenRightAfterAShow_ComesUpAgainWi
   pressShortcut();
   ASSERT_TRUE(becomesHidden());
   showByShortcut();
+  waitUntil([] { return false; }, std::chrono::milliseconds(250));  // that busy
   session().windows().withdraw(program().panel());
+  EXPECT_TRUE(waitUntil([&] { return session().windows().isManaged(program().panel()); }));
   program().waitForPanel();
   input().type(u"dep"_s);
   input().tap(XK_Return);
   EXPECT_TRUE(becomesMarked(u"Deploy"_s));
   EXPECT_TRUE(becomesHidden());
+}
+
+TEST_F(WindowManagerFocusTest, PanelShownHiddenAndShownBeforeTheWindowManagerKnows_HasTheKeyboard) {
+  startHidden(commands({u"Build"_s, u"Deploy"_s}));
+  const auto other = session().openOtherWindow();
+  workIn(*other);
+  manager().settle();
+  {
+    const SuspendedProcess busyManager(manager().processId());
+    DesktopShell shell(session().bus()->address());
+    for (int toggle = 0; toggle < 3; ++toggle) {
+      EXPECT_EQ(shell.activateAction(u"toggle"_s), QString());
+    }
+  }
+  program().waitForPanel();
+  program().settle();
+  input().type(u"dep"_s);
+  input().tap(XK_Return);
+  EXPECT_TRUE(becomesMarked(u"Deploy"_s));
 }
 
 TEST_F(WindowManagerFocusTest, Panel_TakesTheKeyboardFromABusyTerminal) {

@@ -150,8 +150,6 @@ void WindowProbe::raise(xcb_window_t window) {
 }
 
 void WindowProbe::withdraw(xcb_window_t window) {
-  const quint32 properties = XCB_EVENT_MASK_PROPERTY_CHANGE;
-  xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &properties);
   xcb_unmap_notify_event_t hidden{};
   hidden.response_type = XCB_UNMAP_NOTIFY;
   hidden.event = m_connection.root();
@@ -160,14 +158,12 @@ void WindowProbe::withdraw(xcb_window_t window) {
                  XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
                  reinterpret_cast<const char *>(&hidden));
   m_connection.sync();
-  const xcb_atom_t state = m_connection.atom("WM_STATE");
-  require(QStringLiteral("the hidden window"), [&] {
-    const XReply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection));
-    return event && event->response_type == XCB_PROPERTY_NOTIFY &&
-           reinterpret_cast<const xcb_property_notify_event_t &>(*event).atom == state;
-  });
-  const quint32 nothing = XCB_EVENT_MASK_NO_EVENT;
-  xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &nothing);
+  require(QStringLiteral("the hidden window"), [&] { return !isManaged(window); });
+}
+
+bool WindowProbe::isManaged(xcb_window_t window) const {
+  constexpr quint32 normalState = 1;
+  return m_connection.number(window, "WM_STATE") == normalState;
 }
 
 QImage WindowProbe::grab(xcb_window_t window) const {

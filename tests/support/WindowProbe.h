@@ -24,6 +24,8 @@ class WindowProbe {
   QList<xcb_window_t> menus(const QString &instanceName) const;
 
   bool isViewable(xcb_window_t window) const;
+  /// Whether the window manager takes the window for shown.
+  bool isManaged(xcb_window_t window) const;
   /// The client area on the root window.
   QRect geometry(xcb_window_t window) const;
   /// The window manager's frame around it, or the window itself where it has none.

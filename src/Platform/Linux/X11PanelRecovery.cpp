@@ -2,8 +2,6 @@
 
 #include <QtCore/QCoreApplication>
 
-#include <utility>
-
 namespace lanternix {
 
 using namespace std::chrono_literals;
@@ -17,21 +15,20 @@ X11PanelRecovery::X11PanelRecovery(X11Atoms &atoms) : m_atoms(atoms) {
 
 void X11PanelRecovery::noteHiding() {
   m_recentHiding.setRemainingTime(2s);
+  m_pause.stop();
 }
 
 void X11PanelRecovery::noteShow(QWindow &panel) {
   m_panel = &panel;
-  m_isArmed = !m_recentHiding.hasExpired();
+  m_pause.stop();
 }
 
 bool X11PanelRecovery::nativeEventFilter(const QByteArray & /*eventType*/, void *message,
                                          qintptr * /*result*/) {
   const auto &event = *static_cast<const xcb_generic_event_t *>(message);
-  if (m_isArmed && event.response_type == XCB_PROPERTY_NOTIFY) {
+  if (event.response_type == XCB_PROPERTY_NOTIFY && !m_recentHiding.hasExpired() && m_panel) {
     const auto &property = reinterpret_cast<const xcb_property_notify_event_t &>(event);
-    const bool isPanelsState = m_panel && property.window == m_panel->winId() &&
-                               property.atom == m_atoms[X11Atoms::wmState];
-    if (isPanelsState && !m_recentHiding.hasExpired()) {
+    if (property.window == m_panel->winId() && property.atom == m_atoms[X11Atoms::wmState]) {
       m_pause.start();
     }
   }
@@ -39,7 +36,7 @@ bool X11PanelRecovery::nativeEventFilter(const QByteArray & /*eventType*/, void 
 }
 
 void X11PanelRecovery::check() {
-  if (m_panel && m_panel->isVisible() && std::exchange(m_isArmed, false)) {
+  if (m_panel && m_panel->isVisible()) {
     Q_EMIT mayBeLost(*m_panel);
   }
 }

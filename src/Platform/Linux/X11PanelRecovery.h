@@ -29,8 +29,8 @@ class X11PanelRecovery : public QObject, public QAbstractNativeEventFilter {
 
  Q_SIGNALS:
   /// The window manager has changed the state of \p panel, which should be shown, and has had time
-  /// to end what it was about. Once for each show at the most: one that goes on hiding the panel
-  /// means it.
+  /// to end what it was about. Only within two seconds of a hiding: who takes the panel off the
+  /// screen later means it.
   void mayBeLost(QWindow &panel);
 
  private:
@@ -41,7 +41,6 @@ class X11PanelRecovery : public QObject, public QAbstractNativeEventFilter {
   /// Expired when the last hiding is too long ago to be met only now.
   QDeadlineTimer m_recentHiding;
   QTimer m_pause;
-  bool m_isArmed = false;
 };
 
 }  // namespace lanternix

@@ -131,12 +131,16 @@ void X11WindowSystem::prepareHiding(QWindow &window) {
 /// hidden.
 void X11WindowSystem::bringBack(QWindow &panel) {
   const xcb_window_t window = nativeWindow(panel);
-  if (!hasWindowManager() || managedState(window) == normalState) {
+  if (!hasWindowManager()) {
     return;
   }
-  setMarks(window);
-  xcb_unmap_window(m_server.connection(), window);
-  xcb_map_window(m_server.connection(), window);
+  if (managedState(window) != normalState) {
+    xcb_unmap_window(m_server.connection(), window);
+    setMarks(window);
+    xcb_map_window(m_server.connection(), window);
+  } else if (hasFocus(window)) {
+    return;
+  }
   activate(panel);
 }
 
@@ -197,7 +201,7 @@ std::optional<xcb_window_t> X11WindowSystem::windowProperty(xcb_window_t window,
 std::optional<QPoint> X11WindowSystem::activeWindowCentre() const {
   const auto active = windowProperty(m_server.root(), X11Atoms::netActiveWindow);
   if (!active || *active == XCB_WINDOW_NONE || *active == m_panel) {
-    return std::nullopt;  // the panel is only named by who has not yet dealt with its hiding
+    return std::nullopt;  // the panel tells nothing of where the user works
   }
   xcb_connection_t *connection = m_server.connection();
   const auto geometryCookie = xcb_get_geometry(connection, *active);
@@ -229,6 +233,12 @@ quint32 X11WindowSystem::managedState(xcb_window_t window) const {
 
 bool X11WindowSystem::isManaged(xcb_window_t window) const {
   return managedState(window) != withdrawnState;
+}
+
+bool X11WindowSystem::hasFocus(xcb_window_t window) const {
+  const auto reply =
+      awaitReply(xcb_get_input_focus_reply, m_server, xcb_get_input_focus(m_server.connection()));
+  return reply && reply->focus == window;
 }
 
 bool X11WindowSystem::isViewable(xcb_window_t window) const {

@@ -44,6 +44,11 @@ class FloatingPanelTest : public testing::Test {
     QTest::mousePress(panel.windowHandle(), button, {}, inWindow(position));
   }
   void move(const QPoint &position) { QTest::mouseMove(panel.windowHandle(), inWindow(position)); }
+  void moveWithoutButtons(const QPoint &position) {
+    QMouseEvent event(QEvent::MouseMove, inWindow(position), position, Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QCoreApplication::sendEvent(panel.windowHandle(), &event);
+  }
   void release(Qt::MouseButton button, const QPoint &position) {
     QTest::mouseRelease(panel.windowHandle(), button, {}, inWindow(position));
   }
@@ -58,6 +63,17 @@ class FloatingPanelTest : public testing::Test {
 
   QtWindowSystem windowSystem;
   FloatingPanel panel{windowSystem};
+};
+
+/// Carries out every drag itself.
+class DragRecorder final : public QtWindowSystem {
+ public:
+  bool takeDrag(QWindow & /*window*/, Qt::Edges edges, QPoint /*position*/) override {
+    drags.append(edges);
+    return true;
+  }
+
+  QList<Qt::Edges> drags;
 };
 
 /// Takes its time with a window that it is asked to move.
@@ -186,12 +202,14 @@ TEST_F(FloatingPanelTest, GivenAFrameRightAfterItsWindowGotAnotherSize_ForgetsTh
   EXPECT_EQ(resized.count(), 0);
 }
 
-TEST_F(FloatingPanelTest, DoubleClickOnAnEdge_LeavesTheBackgroundAlone) {
-  QTest::mouseDClick(panel.windowHandle(), Qt::LeftButton, {}, {498, 200});
-  const QPoint background = positionOf({250, 200});
-  press(Qt::RightButton, background);
-  move(background + QPoint(30, 20));
-  EXPECT_EQ(panel.geometry(), QRect(100, 50, 500, 400));
+TEST_F(FloatingPanelTest, DoubleClickOnAnEdge_DragsNothingButTheEdge) {
+  DragRecorder recorder;
+  FloatingPanel dragged(recorder);
+  dragged.setFrame({100, 50, 500, 400});
+  dragged.makeKeyAndOrderFront();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&dragged));
+  QTest::mouseDClick(dragged.windowHandle(), Qt::LeftButton, {}, {498, 200});
+  EXPECT_EQ(recorder.drags, QList<Qt::Edges>(2, Qt::RightEdge));
 }
 
 // As by a menu that is opened by a key meanwhile.
@@ -200,11 +218,17 @@ TEST_F(FloatingPanelTest, EdgeWhoseReleaseGoesElsewhere_IsLetGoAtTheNextMove) {
   const QPoint edge = positionOf({498, 200});
   press(Qt::LeftButton, edge);
   move(edge + QPoint(30, 0));
-  QMouseEvent later(QEvent::MouseMove, QPointF(300, 200), positionOf({300, 200}), Qt::NoButton,
-                    Qt::NoButton, Qt::NoModifier);
-  QCoreApplication::sendEvent(panel.windowHandle(), &later);
+  moveWithoutButtons(edge + QPoint(90, 0));
   EXPECT_EQ(panel.geometry(), QRect(100, 50, 530, 400));
   EXPECT_EQ(resized.count(), 1);
+}
+
+TEST_F(FloatingPanelTest, BackgroundWhoseReleaseGoesElsewhere_IsLetGoAtTheNextMove) {
+  const QPoint background = positionOf({250, 200});
+  press(Qt::LeftButton, background);
+  move(background + QPoint(30, 20));
+  moveWithoutButtons(background + QPoint(90, 90));
+  EXPECT_EQ(panel.geometry(), QRect(130, 70, 500, 400));
 }
 
 TEST_F(FloatingPanelTest, AnotherButtonMeanwhile_LeavesTheEdgeHeld) {

@@ -70,9 +70,15 @@ quint32 XConnection::time() const {
   xcb_change_property(*this, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 1,
                       "x");
   xcb_flush(*this);
-  const XReply<xcb_generic_event_t> event(xcb_wait_for_event(*this));
+  quint32 time = 0;
+  while (const XReply<xcb_generic_event_t> event{xcb_wait_for_event(*this)}) {
+    if (event->response_type == XCB_PROPERTY_NOTIFY) {  // others come unasked
+      time = reinterpret_cast<const xcb_property_notify_event_t &>(*event).time;
+      break;
+    }
+  }
   xcb_destroy_window(*this, window);
-  return reinterpret_cast<const xcb_property_notify_event_t &>(*event).time;
+  return time;
 }
 
 void XConnection::sync() const {

@@ -38,8 +38,8 @@ class XConnection {
   /// The first 32-bit item of a property, or \p fallback.
   quint32 number(xcb_window_t window, const char *name, quint32 fallback = 0) const;
 
-  /// The server's time now, which it puts on a change of a property. For a connection that selects
-  /// no events.
+  /// The server's time now, which it puts on a change of a property. Events that came before are
+  /// lost. 0 when the connection breaks.
   quint32 time() const;
 
   /// Returns once the server has carried out everything that was asked of it.

@@ -9,7 +9,7 @@ namespace lanternix {
 /// The clock by which a server stamps its events.
 class X11ServerTime {
  public:
-  /// Asks the server of \p connection.
+  /// Asks the server of \p connection, on which the Synchronization extension can then be used.
   explicit X11ServerTime(xcb_connection_t *connection);
 
   /// What to wait for. XCB_NONE where the server has no Synchronization extension.

@@ -35,8 +35,8 @@ void StatusItem::showWhereThereIsATray() {
   }
   if (m_icon) {
     if (kind != m_kind) {
-      // Perhaps for a moment only, while the tray of this kind is being started anew, or there are
-      // both.
+      // Perhaps for a moment only, while the tray of this kind is being started anew; and a desktop
+      // with both kinds goes on showing the icon.
       qCInfo(statusItem) << "The icon waits for a tray of the kind that it was made for; in the"
                          << "one that is there now it appears after a new start of the program";
     }

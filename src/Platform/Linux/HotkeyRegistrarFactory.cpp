@@ -30,12 +30,7 @@ std::unique_ptr<HotkeyRegistrar> makeCompositorHotkeyRegistrar() {
 }
 
 /// Null without a session bus.
-std::unique_ptr<PortalHotkeyRegistrar> makePortalHotkeyRegistrar() {
-  if (!isSessionBusAnnounced()) {
-    return nullptr;
-  }
-  const auto bus =
-      QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"lanternix-shortcuts"_s);
+std::unique_ptr<PortalHotkeyRegistrar> makePortalHotkeyRegistrar(const QDBusConnection &bus) {
   return bus.isConnected() ? std::make_unique<PortalHotkeyRegistrar>(bus) : nullptr;
 }
 
@@ -49,17 +44,24 @@ std::unique_ptr<HotkeyRegistrar> withOtherDoor(std::unique_ptr<PortalHotkeyRegis
 
 }  // namespace
 
+QDBusConnection connectForShortcuts() {
+  const QString name = u"lanternix-shortcuts"_s;
+  return isSessionBusAnnounced() ? QDBusConnection::connectToBus(QDBusConnection::SessionBus, name)
+                                 : QDBusConnection(name);
+}
+
 std::unique_ptr<HotkeyRegistrar> makeHotkeyRegistrar(const X11Server &server,
                                                      X11EventTime &eventTime,
                                                      X11KeyboardHold &keyboardHold) {
   if (server.isXWayland()) {
-    return withOtherDoor(makePortalHotkeyRegistrar());
+    return withOtherDoor(makePortalHotkeyRegistrar(connectForShortcuts()));
   }
   return std::make_unique<X11HotkeyRegistrar>(server, eventTime, keyboardHold);
 }
 
-std::unique_ptr<HotkeyRegistrar> makeWaylandHotkeyRegistrar(WindowSystem &windowSystem) {
-  auto portal = makePortalHotkeyRegistrar();
+std::unique_ptr<HotkeyRegistrar> makeWaylandHotkeyRegistrar(WindowSystem &windowSystem,
+                                                            const QDBusConnection &bus) {
+  auto portal = makePortalHotkeyRegistrar(bus);
   if (portal) {
     QObject::connect(portal.get(), &PortalHotkeyRegistrar::tokenReceived, &windowSystem,
                      [&windowSystem](const QString &token) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtDBus/QDBusConnection>
+
 #include <memory>
 
 namespace lanternix {
@@ -18,8 +20,13 @@ std::unique_ptr<HotkeyRegistrar> makeHotkeyRegistrar(const X11Server &server,
                                                      X11KeyboardHold &keyboardHold);
 
 /// The door of a Wayland session: the desktop portal's shortcuts, else sway's, else GNOME's. Where
-/// there is none, one that refuses. \p windowSystem is told of the activation token that a press
-/// comes with.
-std::unique_ptr<HotkeyRegistrar> makeWaylandHotkeyRegistrar(WindowSystem &windowSystem);
+/// there is none, one that refuses. The portal is asked for on \p bus, a connection that nobody
+/// else uses; without a bus it is disconnected. \p windowSystem is told of the activation token
+/// that a press comes with.
+std::unique_ptr<HotkeyRegistrar> makeWaylandHotkeyRegistrar(WindowSystem &windowSystem,
+                                                            const QDBusConnection &bus);
+
+/// A connection to the session bus for the door to the shortcut, disconnected without such a bus.
+QDBusConnection connectForShortcuts();
 
 }  // namespace lanternix

@@ -117,7 +117,7 @@ class WaylandPlatform : public LinuxPlatform {
   ActivationMouseMonitor m_mouseMonitor;
   const std::unique_ptr<WindowSystem> m_windowSystem = makeWaylandWindowSystem();
   const std::unique_ptr<HotkeyRegistrar> m_hotkeyRegistrar =
-      makeWaylandHotkeyRegistrar(*m_windowSystem);
+      makeWaylandHotkeyRegistrar(*m_windowSystem, connectForShortcuts());
 };
 
 /// Where the window system is none that we know more of than Qt does.

@@ -19,8 +19,6 @@ class TokenRecorder final : public QtWindowSystem {
 /// The registrar of a Wayland session without a compositor that has a door of its own.
 class HotkeyRegistrarFactoryTest : public PortalHotkeyTest {
  protected:
-  // The bus is looked up once in a process, so that there is room for one test here.
-  TemporaryVariable address{"DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8()};
   TemporaryVariable sway{"SWAYSOCK", {}};
   TemporaryVariable desktop{"XDG_CURRENT_DESKTOP", {}};
 };
@@ -28,7 +26,7 @@ class HotkeyRegistrarFactoryTest : public PortalHotkeyTest {
 TEST_F(HotkeyRegistrarFactoryTest, TokenOfAPortalsPress_ReachesTheWindowSystemBeforeThePress) {
   startPortal();
   TokenRecorder windowSystem;
-  const auto registrar = makeWaylandHotkeyRegistrar(windowSystem);
+  const auto registrar = makeWaylandHotkeyRegistrar(windowSystem, freshConnection());
   QStringList tokensAtPress;
   QObject::connect(registrar.get(), &HotkeyRegistrar::pressed, &windowSystem,
                    [&] { tokensAtPress = windowSystem.tokens; });

@@ -116,8 +116,8 @@ TEST_F(GroupsTabMouseTest, AnItemDraggedBetweenOthers_GoesThereAndStaysSelected)
 }
 
 TEST_F(GroupsTabMouseTest, ARowTakenByItsFarEnd_IsHeldByTheEndOfItsPicture) {
-  const QPoint farEnd =
-      rowRect(itemList(), 0).center() + QPoint(rowRect(itemList(), 0).width() / 2 - 30, 0);
+  const QRect row = rowRect(itemList(), 0);
+  const QPoint farEnd = row.center() + QPoint(row.width() / 2 - 30, 0);
   QPoint hotSpot;
   QSizeF picture;
   drag(
@@ -131,7 +131,7 @@ TEST_F(GroupsTabMouseTest, ARowTakenByItsFarEnd_IsHeldByTheEndOfItsPicture) {
       letGo);
   EXPECT_GT(farEnd.x(), picture.width());
   EXPECT_EQ(hotSpot.x(), picture.width() - 1);
-  EXPECT_EQ(hotSpot.y(), farEnd.y() - rowRect(itemList(), 0).top());
+  EXPECT_EQ(hotSpot.y(), farEnd.y() - row.top());
 }
 
 TEST_F(GroupsTabMouseTest, AGroupDraggedAboveAnother_GoesThere) {

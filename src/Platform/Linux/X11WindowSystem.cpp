@@ -9,6 +9,8 @@
 #include <QtGui/QScreen>
 #include <QtGui/QWindow>
 
+#include <algorithm>
+
 namespace lanternix {
 namespace {
 
@@ -138,8 +140,8 @@ void X11WindowSystem::bringBack(QWindow &panel) {
     xcb_unmap_window(m_server.connection(), window);
     setMarks(window);
     xcb_map_window(m_server.connection(), window);
-  } else if (hasFocus(window)) {
-    return;
+  } else if (hasProgramFocus()) {
+    return;  // which may be that of a dialog by now
   }
   activate(panel);
 }
@@ -235,10 +237,13 @@ bool X11WindowSystem::isManaged(xcb_window_t window) const {
   return managedState(window) != withdrawnState;
 }
 
-bool X11WindowSystem::hasFocus(xcb_window_t window) const {
+/// As the server tells it: Qt hears of it only later.
+bool X11WindowSystem::hasProgramFocus() const {
   const auto reply =
       awaitReply(xcb_get_input_focus_reply, m_server, xcb_get_input_focus(m_server.connection()));
-  return reply && reply->focus == window;
+  return reply && std::ranges::any_of(QGuiApplication::topLevelWindows(), [&](QWindow *window) {
+           return window->handle() != nullptr && nativeWindow(*window) == reply->focus;
+         });
 }
 
 bool X11WindowSystem::isViewable(xcb_window_t window) const {

@@ -40,7 +40,7 @@ class X11WindowSystem : public QtWindowSystem {
   quint32 managedState(xcb_window_t window) const;
   bool isManaged(xcb_window_t window) const;
   bool isViewable(xcb_window_t window) const;
-  bool hasFocus(xcb_window_t window) const;
+  bool hasProgramFocus() const;
   void setMarks(xcb_window_t window);
   void bringBack(QWindow &panel);
   void raiseAndFocus(xcb_window_t window);

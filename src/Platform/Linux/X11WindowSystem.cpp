@@ -255,8 +255,13 @@ bool X11WindowSystem::isViewable(xcb_window_t window) const {
 /// Of what the program answers to. Where that is no event of the server's, such as the program's
 /// start, it is now: of no time at all, some window managers keep the keyboard from the window.
 quint32 X11WindowSystem::userTime() const {
-  const quint32 recent = m_eventTime.recent();
-  return recent != 0 ? recent : m_serverTime.now();
+  if (const quint32 recent = m_eventTime.recent()) {
+    return recent;
+  }
+  if (!m_serverTime) {
+    m_serverTime.emplace(m_server.connection());
+  }
+  return m_serverTime->now();
 }
 
 void X11WindowSystem::setUserTime(xcb_window_t window) {

@@ -54,7 +54,8 @@ class X11WindowSystem : public QtWindowSystem {
   const X11Server &m_server;
   X11EventTime &m_eventTime;
   X11KeyboardHold &m_keyboardHold;
-  const X11ServerTime m_serverTime{m_server.connection()};
+  /// Made when it is first needed.
+  mutable std::optional<X11ServerTime> m_serverTime;
   mutable X11Atoms m_atoms;
   X11StartupNotification m_startupNotification{m_server, m_atoms};
   X11Compositor m_compositor;

@@ -44,10 +44,12 @@ class FloatingPanelTest : public testing::Test {
     QTest::mousePress(panel.windowHandle(), button, {}, inWindow(position));
   }
   void move(const QPoint &position) { QTest::mouseMove(panel.windowHandle(), inWindow(position)); }
-  void moveWithoutButtons(const QPoint &position) {
-    QMouseEvent event(QEvent::MouseMove, inWindow(position), position, Qt::NoButton, Qt::NoButton,
+  /// As the system tells it, whatever was pressed here before.
+  void moveHolding(Qt::MouseButtons buttons, const QPoint &position) {
+    QMouseEvent event(QEvent::MouseMove, inWindow(position), position, Qt::NoButton, buttons,
                       Qt::NoModifier);
     QCoreApplication::sendEvent(panel.windowHandle(), &event);
+    QCoreApplication::processEvents();
   }
   void release(Qt::MouseButton button, const QPoint &position) {
     QTest::mouseRelease(panel.windowHandle(), button, {}, inWindow(position));
@@ -218,7 +220,7 @@ TEST_F(FloatingPanelTest, EdgeWhoseReleaseGoesElsewhere_IsLetGoAtTheNextMove) {
   const QPoint edge = positionOf({498, 200});
   press(Qt::LeftButton, edge);
   move(edge + QPoint(30, 0));
-  moveWithoutButtons(edge + QPoint(90, 0));
+  moveHolding(Qt::NoButton, edge + QPoint(90, 0));
   EXPECT_EQ(panel.geometry(), QRect(100, 50, 530, 400));
   EXPECT_EQ(resized.count(), 1);
 }
@@ -227,7 +229,7 @@ TEST_F(FloatingPanelTest, BackgroundWhoseReleaseGoesElsewhere_IsLetGoAtTheNextMo
   const QPoint background = positionOf({250, 200});
   press(Qt::LeftButton, background);
   move(background + QPoint(30, 20));
-  moveWithoutButtons(background + QPoint(90, 90));
+  moveHolding(Qt::RightButton, background + QPoint(90, 90));
   EXPECT_EQ(panel.geometry(), QRect(130, 70, 500, 400));
 }
 

@@ -90,7 +90,7 @@ void AppDelegate::setupPanel() {
 }
 
 void AppDelegate::togglePanel() {
-  if (m_panel && m_panel->isVisible()) {
+  if (m_panel && m_panel->isVisible() && !m_panel->isTakenAway()) {
     m_appState.hidePanel();
   } else {
     showPanel();
@@ -102,24 +102,22 @@ void AppDelegate::showPanel() {
     return;
   }
   m_firstShow.stop();  // it would bring back what may be hidden by then
-  placePanel();
+  placePanel(m_windowSystem.activeScreen());
   m_mouseMonitor.setActive(true);  // a press may follow as soon as there is a panel to see
   m_panel->makeKeyAndOrderFront();
   m_appState.setPanelVisible(true);
 }
 
-void AppDelegate::placePanel() {
-  const QRect workArea = m_windowSystem.workArea();
-  if (!workArea.isNull()) {
-    m_panel->setFrame(panelFrame(workArea));
+void AppDelegate::placePanel(const QScreen *screen) {
+  if (screen != nullptr) {
+    m_panel->setFrame(panelFrame(m_windowSystem.workArea(*screen)));
   }
 }
 
 void AppDelegate::watchScreen(QScreen *screen) {
-  const auto follow = [this, screen] { followScreen(screen); };
-  connect(screen, &QScreen::geometryChanged, this, follow);
-  // Of a screen that has become larger, it may be told only later how much of it can be used.
-  connect(screen, &QScreen::availableGeometryChanged, this, follow);
+  connect(screen, &QScreen::geometryChanged, this, [this, screen] { followScreen(screen); });
+  connect(screen, &QScreen::availableGeometryChanged, this,
+          [this, screen] { followWorkArea(screen); });
 }
 
 /// Wherever Qt and the window manager move the panel, they keep the size that it had in the pixels
@@ -130,10 +128,22 @@ void AppDelegate::followScreen(const QScreen *screen) {
   }
   const auto placeIfShown = [this] {
     if (m_panel->isVisible()) {
-      placePanel();
+      placePanel(m_panel->screen());
     }
   };
   QMetaObject::invokeMethod(this, placeIfShown, Qt::QueuedConnection);  // when they have done so
+}
+
+/// Taskbars and on-screen keyboards come and go: the panel stays where the user has put it as long
+/// as there is room for it. Of a screen that has become larger, it may be told only now how much of
+/// it can be used.
+void AppDelegate::followWorkArea(const QScreen *screen) {
+  const QRect workArea = m_windowSystem.workArea(*screen);
+  const bool hasRoom =
+      workArea.contains(m_panel->frame()) && m_panel->frame().size() == panelFrame(workArea).size();
+  if (!hasRoom) {
+    followScreen(screen);
+  }
 }
 
 void AppDelegate::openSettings() {

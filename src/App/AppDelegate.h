@@ -43,8 +43,8 @@ class AppDelegate : public QObject {
   /// applicationDidFinishLaunching(): nothing.
   void showPanel();
 
-  /// Hides the panel when it is shown, else shows it. Before applicationDidFinishLaunching():
-  /// nothing.
+  /// Hides the panel when it is on the screen, else shows it. Before
+  /// applicationDidFinishLaunching(): nothing.
   void togglePanel();
 
   /// Hides the panel and shows the settings window in front, with the keyboard.
@@ -53,9 +53,10 @@ class AppDelegate : public QObject {
  private:
   void setupPanel();
   void hideOnPressOutside();
-  void placePanel();
+  void placePanel(const QScreen *screen);
   void watchScreen(QScreen *screen);
   void followScreen(const QScreen *screen);
+  void followWorkArea(const QScreen *screen);
   void storePanelSize();
   bool handleKey(const QKeyEvent &press);
   /// The panel's frame on a work area: in the middle, 60 pixels up.

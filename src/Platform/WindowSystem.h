@@ -5,6 +5,7 @@
 #include <QtCore/QRect>
 
 class QMouseEvent;
+class QScreen;
 class QWindow;
 
 namespace lanternix {
@@ -19,9 +20,13 @@ class WindowSystem : public QObject {
   WindowSystem();
   ~WindowSystem() override;
 
-  /// Where a panel that is shown now may go: what the desktop's own bars leave of the screen that
-  /// the user works on, in the coordinates of windows' geometries. Null only without any screen.
-  virtual QRect workArea() const = 0;
+  /// The screen that the user works on: that of the active window where it can be told, else the
+  /// one under the pointer, else the primary one. Null only without any screen.
+  virtual QScreen *activeScreen() const = 0;
+
+  /// Where a panel on \p screen may go: what the desktop's own bars leave of it, in the coordinates
+  /// of windows' geometries.
+  virtual QRect workArea(const QScreen &screen) const = 0;
 
   /// The program is about to answer a request of the user's that came with \p token: by the next
   /// activate(), or by the next prepareHiding(). The answer uses the token up.
@@ -39,6 +44,10 @@ class WindowSystem : public QObject {
   /// Brings the shown \p window to the front and gives it the keyboard, also where the window
   /// manager guards against focus stealing: call it only in answer to an action of the user.
   virtual void activate(QWindow &window) = 0;
+
+  /// Whether \p window, which has been on the screen since it was shown, still is. False when the
+  /// window manager has made an icon of it or lost it; true where that cannot be told.
+  virtual bool isOnScreen(const QWindow &window) const = 0;
 
   /// Begins a drag by the mouse, which has just been pressed at \p position in \p window: of its
   /// \p edges, or of all of it when those are none. True when the window system carries it out;
@@ -70,6 +79,8 @@ class WindowSystem : public QObject {
   virtual void setFrame(QWindow &window, const Frame &frame) = 0;
 
  Q_SIGNALS:
+  /// The window manager has lost the panel that should be shown: it has to be shown anew.
+  void panelLost();
   void compositingChanged();
 };
 

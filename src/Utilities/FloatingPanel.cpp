@@ -46,6 +46,7 @@ FloatingPanel::FloatingPanel(WindowSystem &windowSystem)
   connect(windowHandle(), &QWindow::screenChanged, this, &FloatingPanel::updateShape);
   connect(&windowSystem, &WindowSystem::compositingChanged, this,
           &FloatingPanel::updateCompositing);
+  connect(&windowSystem, &WindowSystem::panelLost, this, &FloatingPanel::showAnew);
   updateCompositing();
 }
 
@@ -56,6 +57,9 @@ void FloatingPanel::setContentView(std::unique_ptr<QWidget> content) {
 }
 
 void FloatingPanel::makeKeyAndOrderFront() {
+  if (isTakenAway()) {
+    hide();
+  }
   m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);  // where Qt keeps no positions
   if (!isVisible()) {
     awaitPlace();
@@ -69,6 +73,15 @@ void FloatingPanel::makeKeyAndOrderFront() {
   if (QGuiApplication::focusWindow() == windowHandle() && !isActiveWindow()) {
     QApplication::setActiveWindow(this);
   }
+}
+
+bool FloatingPanel::isTakenAway() const {
+  return isVisible() && m_hasBeenSeen && !m_windowSystem.isOnScreen(*windowHandle());
+}
+
+void FloatingPanel::showAnew() {
+  hide();
+  makeKeyAndOrderFront();
 }
 
 void FloatingPanel::orderOut() {

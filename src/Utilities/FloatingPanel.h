@@ -39,6 +39,10 @@ class FloatingPanel : public QWidget {
   /// of the user.
   void makeKeyAndOrderFront();
 
+  /// Whether the window manager has taken the shown window off the screen, as by making an icon of
+  /// it. For isVisible() it has never gone.
+  bool isTakenAway() const;
+
   /// Hides the window.
   void orderOut();
 
@@ -71,6 +75,7 @@ class FloatingPanel : public QWidget {
   void confirmPlace();
   void endResizeByManager();
   void endResizeByUser();
+  void showAnew();
 
   WindowSystem &m_windowSystem;
   std::unique_ptr<WindowEdgeResizer> m_edgeResizer;

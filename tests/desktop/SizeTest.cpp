@@ -42,13 +42,43 @@ class SizeTest : public DesktopTest {
               panelGeometry().translated(distance));
   }
 
+  /// A taskbar of that height comes up at the lower edge.
+  void showTaskbar(int height) {
+    const QSize screen = session().screenSize();
+    const QRect area(0, screen.height() - height, screen.width(), height);
+    m_taskbar =
+        std::make_unique<OtherClient>(session().displayName(), area, OtherClient::Shape::dock);
+    const QRect before = session().windows().workArea();
+    m_taskbar->show();
+    require(u"room for the taskbar"_s, [&] { return session().windows().workArea() != before; });
+    program().settle();
+  }
+
   bool becomesStored(QSize size) {
     return waitUntil([&] {
       return session().home().preference(u"panelWidth"_s) == QString::number(size.width()) &&
              session().home().preference(u"panelHeight"_s) == QString::number(size.height());
     });
   }
+
+ private:
+  std::unique_ptr<OtherClient> m_taskbar;
 };
+
+TEST_F(SizeTest, TaskbarThatComesUpBesideADraggedPanel_LeavesItWhereItIs) {
+  start(commands({u"Build"_s}));
+  dragHeader();
+  const QRect dragged = panelGeometry();
+  showTaskbar(36);
+  EXPECT_EQ(panelGeometry(), dragged);
+}
+
+TEST_F(SizeTest, TaskbarThatComesUpWhereADraggedPanelIs_MovesItToItsUsualPlace) {
+  start(commands({u"Build"_s}));
+  dragHeader();
+  showTaskbar(200);
+  EXPECT_TRUE(waitUntil([this] { return panelGeometry() == placed({700, 500}); }));
+}
 
 TEST_F(SizeTest, FirstStart_Is700By500AboveTheCentre) {
   start(commands({u"Build"_s}));

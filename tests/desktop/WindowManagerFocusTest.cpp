@@ -1,8 +1,6 @@
 #include "desktop/WindowManagerTest.h"
 #include "support/BusyScreen.h"
-#include "support/DesktopShell.h"
 #include "support/ProgramPing.h"
-#include "support/SuspendedProcess.h"
 
 #include <X11/keysym.h>
 
@@ -53,47 +51,6 @@ TEST_F(WindowManagerFocusTest, Panel_LiesAboveAFullScreenWindow) {
   if (!manager().tiles()) {
     EXPECT_EQ(session().windows().geometry(other->window()).size(), session().screenSize());
   }
-}
-
-// As a window manager does that is so busy that it meets the last hiding only after the show.
-TEST_F(WindowManagerFocusTest, PanelTakenForHiddenRightAfterAShow_ComesUpAgainWithTheKeyboard) {
-  if (manager().name() == u"xfwm4"_s) {
-    GTEST_SKIP() << because(u"does not take a window on the screen for hidden"_s);
-  }
-  startHidden(commands({u"Build"_s, u"Deploy"_s}));
-  const auto other = session().openOtherWindow();
-  workIn(*other);
-  showByShortcut();
-  pressShortcut();
-  ASSERT_TRUE(becomesHidden());
-  showByShortcut();
-  waitUntil([] { return false; }, std::chrono::milliseconds(250));  // that busy
-  session().windows().withdraw(program().panel());
-  EXPECT_TRUE(waitUntil([&] { return session().windows().isManaged(program().panel()); }));
-  program().waitForPanel();
-  input().type(u"dep"_s);
-  input().tap(XK_Return);
-  EXPECT_TRUE(becomesMarked(u"Deploy"_s));
-  EXPECT_TRUE(becomesHidden());
-}
-
-TEST_F(WindowManagerFocusTest, PanelShownHiddenAndShownBeforeTheWindowManagerKnows_HasTheKeyboard) {
-  startHidden(commands({u"Build"_s, u"Deploy"_s}));
-  const auto other = session().openOtherWindow();
-  workIn(*other);
-  manager().settle();
-  {
-    const SuspendedProcess busyManager(manager().processId());
-    DesktopShell shell(session().bus()->address());
-    for (int toggle = 0; toggle < 3; ++toggle) {
-      EXPECT_EQ(shell.activateAction(u"toggle"_s), QString());
-    }
-  }
-  program().waitForPanel();
-  program().settle();
-  input().type(u"dep"_s);
-  input().tap(XK_Return);
-  EXPECT_TRUE(becomesMarked(u"Deploy"_s));
 }
 
 TEST_F(WindowManagerFocusTest, Panel_TakesTheKeyboardFromABusyTerminal) {

@@ -124,7 +124,36 @@ TEST_F(WindowManagerMonitorsTest, ResolutionLoweredUnderThePanel_ChangesItOnlyFo
                 std::chrono::milliseconds(500)));  // longer than a hand's resizing is waited out
   monitors.plugIn(leftOutput, leftMonitor);
   EXPECT_TRUE(waitUntil([&] { return frame().size() == large; })) << place();
+  pressShortcut();
+  ASSERT_TRUE(becomesHidden());
+  program().settle();  // hidden, it would have stored what is still to be stored
   EXPECT_EQ(session().home().preference(u"panelHeight"_s), u"850"_s);
+}
+
+TEST_F(WindowManagerMonitorsTest, ChangeOfThePanelsMonitor_LeavesItOnThat) {
+  startHidden(commands({u"Build"_s}));
+  const auto left = workOn(leftMonitor);
+  showByShortcut();
+  ASSERT_TRUE(becomesShownOn(leftMonitor, 1)) << place();
+  input().moveTo(rightMonitor.center());
+  constexpr QRect lowerResolution{0, 0, 1024, 768};
+  monitors.plugIn(leftOutput, lowerResolution);
+  EXPECT_TRUE(becomesShownOn(lowerResolution, 1)) << place();
+}
+
+TEST_F(WindowManagerMonitorsTest, ChangeOfAnotherMonitor_LeavesADraggedPanelWhereItIs) {
+  startHidden(commands({u"Build"_s}));
+  const auto left = workOn(leftMonitor);
+  showByShortcut();
+  ASSERT_TRUE(becomesShownOn(leftMonitor, 1)) << place();
+  const QPoint distance(-90, 60);
+  const QPoint header = frame().topLeft() + QPoint(350, 28);
+  const QRect dragged = frame().translated(distance);
+  dragPanel(header, header + distance, panelGeometry().translated(distance));
+  monitors.plugIn(rightOutput, {rightMonitor.topLeft(), QSize(1280, 1024)});
+  manager().settle();
+  program().settle();
+  EXPECT_EQ(frame(), dragged) << place();
 }
 
 TEST_F(WindowManagerMonitorsTest, MonitorPluggedInAgain_IsUsedAgain) {

@@ -154,14 +154,43 @@ void WindowProbe::withdraw(xcb_window_t window) {
   hidden.response_type = XCB_UNMAP_NOTIFY;
   hidden.event = m_connection.root();
   hidden.window = window;
-  xcb_send_event(m_connection, 0, m_connection.root(),
-                 XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-                 reinterpret_cast<const char *>(&hidden));
-  m_connection.sync();
-  require(QStringLiteral("the hidden window"), [&] { return !isManaged(window); });
+  tellWindowManager(window, reinterpret_cast<const char *>(&hidden));
 }
 
-bool WindowProbe::isManaged(xcb_window_t window) const {
+void WindowProbe::iconify(xcb_window_t window) {
+  constexpr quint32 iconicState = 3;
+  xcb_client_message_event_t request{};
+  request.response_type = XCB_CLIENT_MESSAGE;
+  request.format = 32;
+  request.window = window;
+  request.type = m_connection.atom("WM_CHANGE_STATE");
+  request.data.data32[0] = iconicState;
+  tellWindowManager(window, reinterpret_cast<const char *>(&request));
+}
+
+/// Returns when it has written a state of the window. That is known by the event: the program may
+/// have it put another one in its place soon after.
+void WindowProbe::tellWindowManager(xcb_window_t window, const char *message) {
+  const quint32 events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+  xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &events);
+  xcb_send_event(m_connection, 0, m_connection.root(),
+                 XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
+                 message);
+  const xcb_atom_t state = m_connection.atom("WM_STATE");
+  require(u"the window manager's word on the window"_s, [&] {
+    xcb_flush(m_connection);
+    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) {
+      const auto *change = reinterpret_cast<const xcb_property_notify_event_t *>(event.get());
+      if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && change->window == window &&
+          change->atom == state) {
+        return true;
+      }
+    }
+    return false;
+  });
+}
+
+bool WindowProbe::isInNormalState(xcb_window_t window) const {
   constexpr quint32 normalState = 1;
   return m_connection.number(window, "WM_STATE") == normalState;
 }

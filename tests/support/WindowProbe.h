@@ -24,8 +24,8 @@ class WindowProbe {
   QList<xcb_window_t> menus(const QString &instanceName) const;
 
   bool isViewable(xcb_window_t window) const;
-  /// Whether the window manager takes the window for shown.
-  bool isManaged(xcb_window_t window) const;
+  /// Whether the window manager takes the window for shown, and not as an icon.
+  bool isInNormalState(xcb_window_t window) const;
   /// The client area on the root window.
   QRect geometry(xcb_window_t window) const;
   /// The window manager's frame around it, or the window itself where it has none.
@@ -61,8 +61,10 @@ class WindowProbe {
   /// Asks the window manager, as a program does for a window of its own, to put it on top.
   void raise(xcb_window_t window);
   /// Tells the window manager that the window's program has hidden it. Returns once the window
-  /// manager takes it for hidden.
+  /// manager has taken it for hidden.
   void withdraw(xcb_window_t window);
+  /// Asks the window manager to make an icon of the window, as a person may. Returns once it has.
+  void iconify(xcb_window_t window);
 
   /// The picture of a viewable window as it is on the screen. A null image when there is none.
   QImage grab(xcb_window_t window) const;
@@ -75,6 +77,7 @@ class WindowProbe {
   const XConnection &connection() const { return m_connection; }
 
  private:
+  void tellWindowManager(xcb_window_t window, const char *message);
   xcb_window_t focus() const;
   QList<xcb_window_t> children(xcb_window_t window) const;
   xcb_window_t parent(xcb_window_t window) const;

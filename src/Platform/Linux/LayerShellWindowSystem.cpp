@@ -20,9 +20,9 @@ LayerShellWindowSystem::LayerShellWindowSystem(std::unique_ptr<WaylandLayerShell
   connect(qGuiApp, &QGuiApplication::screenRemoved, this, &LayerShellWindowSystem::closeOn);
 }
 
-QRect LayerShellWindowSystem::workArea() const {
+QRect LayerShellWindowSystem::workArea(const QScreen &screen) const {
   const std::optional<QSize> size = m_shell->usableSize();
-  return size ? QRect(QPoint(), *size) : QtWindowSystem::workArea();
+  return size ? QRect(QPoint(), *size) : QtWindowSystem::workArea(screen);
 }
 
 void LayerShellWindowSystem::preparePanel(QWindow &window) {

@@ -18,7 +18,7 @@ class LayerShellWindowSystem : public QtWindowSystem {
  public:
   explicit LayerShellWindowSystem(std::unique_ptr<WaylandLayerShell> shell);
 
-  QRect workArea() const override;
+  QRect workArea(const QScreen &screen) const override;
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;
   /// Takes a drag of which it would not hear how far it goes, and does nothing.

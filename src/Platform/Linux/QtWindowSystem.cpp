@@ -24,9 +24,8 @@ void QtWindowSystem::noteRequest(const ActivationToken &token) {
   m_token = token.token;
 }
 
-QRect QtWindowSystem::workArea() const {
-  const QScreen *screen = activeScreen();
-  return screen != nullptr ? screen->availableGeometry() : QRect();
+QRect QtWindowSystem::workArea(const QScreen &screen) const {
+  return screen.availableGeometry();
 }
 
 void QtWindowSystem::preparePanel(QWindow & /*window*/) {}

@@ -19,6 +19,7 @@ constexpr std::array<std::string_view, X11Atoms::nameCount> names{
     "_NET_WM_STATE_SKIP_TASKBAR",
     "_NET_WM_STATE_STICKY",
     "_NET_WM_USER_TIME",
+    "_NET_WM_USER_TIME_WINDOW",
     "_NET_WM_WINDOW_TYPE",
     "_NET_WM_WINDOW_TYPE_UTILITY",
     "WM_STATE",

@@ -24,6 +24,7 @@ class X11Atoms {
     netWmStateSkipTaskbar,
     netWmStateSticky,
     netWmUserTime,
+    netWmUserTimeWindow,
     netWmWindowType,
     netWmWindowTypeUtility,
     wmState,

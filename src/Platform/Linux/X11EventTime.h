@@ -19,6 +19,8 @@ class X11EventTime {
     m_last = serverTime;
     m_age.start();
   }
+  /// The program is about to answer something else, of which the server's time is not known.
+  void forget() { m_age.invalidate(); }
 
  private:
   quint32 m_last = 0;

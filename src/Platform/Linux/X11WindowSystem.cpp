@@ -3,6 +3,7 @@
 #include "Platform/ActivationToken.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11KeyboardHold.h"
+#include "Platform/ModalWindow.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtGui/QGuiApplication>
@@ -55,7 +56,10 @@ X11WindowSystem::X11WindowSystem(const X11Server &server, X11EventTime &eventTim
       m_atoms(server),
       m_compositor(server, m_atoms) {
   connect(&m_compositor, &X11Compositor::changed, this, &WindowSystem::compositingChanged);
-  connect(&m_recovery, &X11PanelRecovery::mayBeLost, this, &X11WindowSystem::bringBack);
+  connect(&m_panelWatch, &X11PanelWatch::stateSettled, this, &X11WindowSystem::restore);
+  // Asking for the clock takes a while, which nobody should wait for with the first show.
+  QMetaObject::invokeMethod(
+      this, [this] { serverTime(); }, Qt::QueuedConnection);
 }
 
 QScreen *X11WindowSystem::activeScreen() const {
@@ -76,18 +80,16 @@ QScreen *X11WindowSystem::activeScreen() const {
 /// Window managers tell one work area for all monitors together, so that it says nothing of each of
 /// several. Qt knows that, but takes a monitor that is plugged in as a second one for the only one
 /// as long as it reads its work area.
-QRect X11WindowSystem::workArea() const {
-  const QScreen *screen = activeScreen();
-  if (screen == nullptr) {
-    return {};
-  }
-  return QGuiApplication::screens().size() == 1 ? screen->availableGeometry() : screen->geometry();
+QRect X11WindowSystem::workArea(const QScreen &screen) const {
+  return QGuiApplication::screens().size() == 1 ? screen.availableGeometry() : screen.geometry();
 }
 
 void X11WindowSystem::noteRequest(const ActivationToken &token) {
   m_startupNotification.begin(token.startupId);
   if (const quint32 time = X11StartupNotification::timeOf(token.startupId)) {
     m_eventTime.note(time);
+  } else {
+    m_eventTime.forget();
   }
 }
 
@@ -96,7 +98,7 @@ void X11WindowSystem::preparePanel(QWindow &window) {
   // A window manager that has not yet carried out the last hiding would wipe what is written now.
   comesTrue([&] { return !isManaged(panel); });
   m_panel = panel;
-  m_recovery.noteShow(window);
+  m_panelWatch.noteShow(window);
   setMarks(panel);
 }
 
@@ -114,7 +116,6 @@ void X11WindowSystem::setMarks(xcb_window_t panel) {
                       XCB_ATOM_ATOM, bitsPerItem, states.size(), states.data());
   xcb_change_property(connection, XCB_PROP_MODE_REPLACE, panel, m_atoms[X11Atoms::netWmDesktop],
                       XCB_ATOM_CARDINAL, bitsPerItem, 1, &everyDesktop);
-  setUserTime(panel);
 }
 
 /// A request to hide that the window manager meets before it has shown the window changes nothing
@@ -122,28 +123,30 @@ void X11WindowSystem::setMarks(xcb_window_t panel) {
 /// manager takes the hiding for the last word.
 void X11WindowSystem::prepareHiding(QWindow &window) {
   m_keyboardHold.end();
-  m_recovery.noteHiding();
+  m_panelWatch.noteHiding();
   const xcb_window_t panel = nativeWindow(window);
   comesTrue([&] { return isViewable(panel) && (isManaged(panel) || !hasWindowManager()); });
   m_startupNotification.end();
 }
 
-/// For Qt the panel has never gone, so this is asked of the server itself. A window manager may
-/// have left the lost window on the screen or made an icon of it: all of them show one that is
-/// hidden.
-void X11WindowSystem::bringBack(QWindow &panel) {
-  const xcb_window_t window = nativeWindow(panel);
+/// Once only: a person who takes the panel away after this means it.
+void X11WindowSystem::restore(QWindow &panel) {
   if (!hasWindowManager()) {
     return;
   }
+  const xcb_window_t window = nativeWindow(panel);
   if (managedState(window) != normalState) {
-    xcb_unmap_window(m_server.connection(), window);
-    setMarks(window);
-    xcb_map_window(m_server.connection(), window);
-  } else if (hasProgramFocus()) {
-    return;  // which may be that of a dialog by now
+    m_panelWatch.stop();
+    Q_EMIT panelLost();
+  } else if (!hasFocus(window) && modalWindow() == nullptr) {
+    m_panelWatch.stop();
+    activate(panel);
   }
-  activate(panel);
+}
+
+bool X11WindowSystem::isOnScreen(const QWindow &window) const {
+  const xcb_window_t native = nativeWindow(window);
+  return isViewable(native) && (managedState(native) == normalState || !hasWindowManager());
 }
 
 void X11WindowSystem::activate(QWindow &window) {
@@ -171,11 +174,12 @@ void X11WindowSystem::raiseAndFocus(xcb_window_t window) {
 
 /// The window manager meets these after the request to show the window, which it answers first.
 void X11WindowSystem::askForActivation(xcb_window_t window) {
-  setUserTime(window);
+  const quint32 time = userTime();
+  setUserTime(window, time);
   if (window == m_panel) {
     addMarks(window);
   }
-  sendToWindowManager(window, X11Atoms::netActiveWindow, {sourcePager, userTime()});
+  sendToWindowManager(window, X11Atoms::netActiveWindow, {sourcePager, time});
 }
 
 void X11WindowSystem::setFrame(QWindow &window, const Frame &frame) {
@@ -238,12 +242,10 @@ bool X11WindowSystem::isManaged(xcb_window_t window) const {
 }
 
 /// As the server tells it: Qt hears of it only later.
-bool X11WindowSystem::hasProgramFocus() const {
+bool X11WindowSystem::hasFocus(xcb_window_t window) const {
   const auto reply =
       awaitReply(xcb_get_input_focus_reply, m_server, xcb_get_input_focus(m_server.connection()));
-  return reply && std::ranges::any_of(QGuiApplication::topLevelWindows(), [&](QWindow *window) {
-           return window->handle() != nullptr && nativeWindow(*window) == reply->focus;
-         });
+  return reply && reply->focus == window;
 }
 
 bool X11WindowSystem::isViewable(xcb_window_t window) const {
@@ -254,20 +256,28 @@ bool X11WindowSystem::isViewable(xcb_window_t window) const {
 
 /// Of what the program answers to. Where that is no event of the server's, such as the program's
 /// start, it is now: of no time at all, some window managers keep the keyboard from the window.
-quint32 X11WindowSystem::userTime() const {
+quint32 X11WindowSystem::userTime() {
   if (const quint32 recent = m_eventTime.recent()) {
     return recent;
   }
+  return serverTime().now();
+}
+
+const X11ServerTime &X11WindowSystem::serverTime() {
   if (!m_serverTime) {
     m_serverTime.emplace(m_server.connection());
   }
-  return m_serverTime->now();
+  return *m_serverTime;
 }
 
-void X11WindowSystem::setUserTime(xcb_window_t window) {
-  const quint32 time = userTime();
+/// Where the window manager allows it, Qt keeps the time on a window made for that, so that others
+/// need not hear of every key; only there it counts. Qt's own time, which it writes with every
+/// show, is that of the last event which it has seen itself.
+void X11WindowSystem::setUserTime(xcb_window_t window, quint32 time) {
   if (time != 0) {  // which would say that the window does not want the keyboard
-    xcb_change_property(m_server.connection(), XCB_PROP_MODE_REPLACE, window,
+    const xcb_window_t keeper =
+        windowProperty(window, X11Atoms::netWmUserTimeWindow).value_or(window);
+    xcb_change_property(m_server.connection(), XCB_PROP_MODE_REPLACE, keeper,
                         m_atoms[X11Atoms::netWmUserTime], XCB_ATOM_CARDINAL, bitsPerItem, 1, &time);
   }
 }

@@ -3,7 +3,7 @@
 #include "Platform/Linux/QtWindowSystem.h"
 #include "Platform/Linux/X11Atoms.h"
 #include "Platform/Linux/X11Compositor.h"
-#include "Platform/Linux/X11PanelRecovery.h"
+#include "Platform/Linux/X11PanelWatch.h"
 #include "Platform/Linux/X11ServerTime.h"
 #include "Platform/Linux/X11StartupNotification.h"
 
@@ -25,11 +25,12 @@ class X11WindowSystem : public QtWindowSystem {
   X11WindowSystem(const X11Server &server, X11EventTime &eventTime, X11KeyboardHold &keyboardHold);
 
   QScreen *activeScreen() const override;
-  QRect workArea() const override;
+  QRect workArea(const QScreen &screen) const override;
   void noteRequest(const ActivationToken &token) override;
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;
   void activate(QWindow &window) override;
+  bool isOnScreen(const QWindow &window) const override;
   bool isComposited() const override { return m_compositor.isRunning(); }
   void setFrame(QWindow &window, const Frame &frame) override;
 
@@ -40,13 +41,14 @@ class X11WindowSystem : public QtWindowSystem {
   quint32 managedState(xcb_window_t window) const;
   bool isManaged(xcb_window_t window) const;
   bool isViewable(xcb_window_t window) const;
-  bool hasProgramFocus() const;
+  bool hasFocus(xcb_window_t window) const;
+  void restore(QWindow &panel);
   void setMarks(xcb_window_t window);
-  void bringBack(QWindow &panel);
   void raiseAndFocus(xcb_window_t window);
   void askForActivation(xcb_window_t window);
-  quint32 userTime() const;
-  void setUserTime(xcb_window_t window);
+  quint32 userTime();
+  const X11ServerTime &serverTime();
+  void setUserTime(xcb_window_t window, quint32 time);
   void addMarks(xcb_window_t window);
   void sendToWindowManager(xcb_window_t window, X11Atoms::Name type,
                            const std::array<quint32, 5> &data);
@@ -54,12 +56,12 @@ class X11WindowSystem : public QtWindowSystem {
   const X11Server &m_server;
   X11EventTime &m_eventTime;
   X11KeyboardHold &m_keyboardHold;
-  /// Made when it is first needed.
-  mutable std::optional<X11ServerTime> m_serverTime;
+  /// Made when the program has started, or when it is needed before.
+  std::optional<X11ServerTime> m_serverTime;
   mutable X11Atoms m_atoms;
   X11StartupNotification m_startupNotification{m_server, m_atoms};
   X11Compositor m_compositor;
-  X11PanelRecovery m_recovery{m_atoms};
+  X11PanelWatch m_panelWatch{m_atoms};
   /// The window prepared last.
   xcb_window_t m_panel = XCB_WINDOW_NONE;
 };

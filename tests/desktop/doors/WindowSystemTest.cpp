@@ -99,6 +99,51 @@ TEST_F(ManagedX11WindowSystemTest, PanelShownForAnAction_IsShownAsOfThat) {
   EXPECT_TRUE(waitUntil([&] { return userTime() == time; }));
 }
 
+TEST_F(ManagedX11WindowSystemTest, PanelShownForARequestWithoutATime_IsShownAsOfNow) {
+  const XConnection connection(testDisplay().name());
+  const quint32 before = connection.time();
+  eventTime.note(before - 1);  // of another action, which was answered then
+  windowSystem.noteRequest({});
+  showPanel();
+  EXPECT_TRUE(waitUntil([&] { return userTime() >= before; }));
+}
+
+TEST_F(ManagedX11WindowSystemTest, PanelWhoseTimeIsKeptOnAnotherWindow_HasItThere) {
+  const XConnection connection(testDisplay().name());
+  const OtherClient keeper(testDisplay().name());
+  const xcb_window_t window = keeper.window();
+  xcb_change_property(connection, XCB_PROP_MODE_REPLACE, native(),
+                      connection.atom("_NET_WM_USER_TIME_WINDOW"), XCB_ATOM_WINDOW, 32, 1, &window);
+  const quint32 time = connection.time() - 1;
+  eventTime.note(time);
+  showPanel();
+  EXPECT_TRUE(waitUntil([&] { return connection.number(window, "_NET_WM_USER_TIME") == time; }));
+}
+
+TEST_F(ManagedX11WindowSystemTest, PanelMadeAnIcon_IsNotOnTheScreen) {
+  showPanel();
+  EXPECT_TRUE(waitUntil([&] { return windowSystem.isOnScreen(panel); }));
+  windows.iconify(native());
+  EXPECT_TRUE(waitUntil([&] { return !windowSystem.isOnScreen(panel); }));
+}
+
+TEST_F(ManagedX11WindowSystemTest, PanelTakenAwaySoonAfterAHiding_IsLostOnce) {
+  int losses = 0;
+  QObject::connect(&windowSystem, &WindowSystem::panelLost, [&] { ++losses; });
+  showPanel();
+  hidePanel();
+  showPanel();
+  ASSERT_TRUE(waitUntil([&] { return windowSystem.isOnScreen(panel); }));
+  windows.iconify(native());
+  EXPECT_TRUE(waitUntil([&] { return losses == 1; }));
+  panel.hide();
+  showPanel();
+  ASSERT_TRUE(waitUntil([&] { return windowSystem.isOnScreen(panel); }));
+  windows.iconify(native());
+  EXPECT_FALSE(waitUntil([&] { return losses > 1; }, std::chrono::milliseconds(300)))
+      << "though a person did it";
+}
+
 TEST_F(ManagedX11WindowSystemTest, PanelShownAgain_IsStillMarkedAsPanel) {
   showPanel();
   ASSERT_TRUE(waitUntil([&] { return isMarkedAsPanel(); }));
@@ -211,6 +256,11 @@ TEST_F(X11WindowSystemTest, WithoutWindowManager_PanelShownAgainTakesTheKeyboard
     ASSERT_TRUE(waitUntil([&] { return windows.hasFocus(native()); })) << i;
     hidePanel();
   }
+}
+
+TEST_F(X11WindowSystemTest, WithoutWindowManager_ShownPanelIsOnTheScreen) {
+  showPanel();
+  EXPECT_TRUE(waitUntil([&] { return windowSystem.isOnScreen(panel); }));
 }
 
 TEST_F(X11WindowSystemTest, WithoutWindowManager_ShownPanelLiesOnTop) {

@@ -1,0 +1,116 @@
+#include "desktop/WindowManagerTest.h"
+#include "support/DesktopShell.h"
+#include "support/SuspendedProcess.h"
+
+#include <X11/keysym.h>
+
+namespace lanternix {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A panel that is gone from the screen though the program has not hidden it.
+class WindowManagerRecoveryTest : public WindowManagerTest {
+ protected:
+  void workIn(OtherClient &client) {
+    client.takeFocus();
+    input().type(u"x"_s);
+    require(u"the other program's key"_s, [&] { return client.keys().contains(XK_x); });
+  }
+
+  /// Shows, hides and shows the panel while the window manager does nothing.
+  void toggleUnderABusyWindowManager() {
+    manager().settle();
+    const SuspendedProcess busyManager(manager().processId());
+    DesktopShell shell(session().bus()->address());
+    for (int toggle = 0; toggle < 3; ++toggle) {
+      EXPECT_EQ(shell.activateAction(u"toggle"_s), QString());
+    }
+  }
+
+  /// Shows the panel and has an icon made of it, so late that this is taken for meant.
+  void makeIcon() {
+    showByShortcut();
+    waitUntil([] { return false; }, std::chrono::milliseconds(2100));
+    session().windows().iconify(program().panel());
+    program().settle();
+  }
+
+  /// Whether letters and Return open the command "Deploy".
+  bool answersToKeys() {
+    program().waitForPanel();
+    program().settle();
+    input().type(u"dep"_s);
+    input().tap(XK_Return);
+    return becomesMarked(u"Deploy"_s);
+  }
+};
+
+// As a window manager does that is so busy that it meets the last hiding only after the show.
+TEST_F(WindowManagerRecoveryTest, PanelTakenForHiddenRightAfterAShow_ComesUpAgainWithTheKeyboard) {
+  if (manager().name() == u"xfwm4"_s) {
+    GTEST_SKIP() << because(u"does not take a window on the screen for hidden"_s);
+  }
+  startHidden(commands({u"Build"_s, u"Deploy"_s}));
+  const auto other = session().openOtherWindow();
+  workIn(*other);
+  showByShortcut();
+  pressShortcut();
+  ASSERT_TRUE(becomesHidden());
+  showByShortcut();
+  waitUntil([] { return false; }, std::chrono::milliseconds(250));  // that busy
+  session().windows().withdraw(program().panel());
+  EXPECT_TRUE(waitUntil([&] { return session().windows().isInNormalState(program().panel()); }));
+  EXPECT_TRUE(answersToKeys());
+  EXPECT_TRUE(becomesHidden());
+}
+
+TEST_F(WindowManagerRecoveryTest,
+       PanelShownHiddenAndShownBeforeTheWindowManagerKnows_HasTheKeyboard) {
+  startHidden(commands({u"Build"_s, u"Deploy"_s}));
+  const auto other = session().openOtherWindow();
+  workIn(*other);
+  toggleUnderABusyWindowManager();
+  EXPECT_TRUE(answersToKeys());
+}
+
+TEST_F(WindowManagerRecoveryTest, PanelOverTheSettingsShownByABusyWindowManager_HasTheKeyboard) {
+  startHidden(commands({u"Build"_s, u"Deploy"_s}));
+  DesktopShell shell(session().bus()->address());
+  EXPECT_EQ(shell.activateAction(u"settings"_s), QString());
+  require(u"the settings with the keyboard"_s, [this] {
+    const auto settings = session().windows().find(u"lanternix"_s, u"Lanternix Settings"_s);
+    return settings && session().windows().hasFocus(*settings);
+  });
+  program().settle();
+  toggleUnderABusyWindowManager();
+  EXPECT_TRUE(answersToKeys());
+}
+
+TEST_F(WindowManagerRecoveryTest, PanelMadeAnIcon_ComesUpByTheShortcutWithTheKeyboard) {
+  if (manager().tiles()) {
+    GTEST_SKIP() << because(manager().name() + u" knows no icons"_s);
+  }
+  startHidden(commands({u"Build"_s, u"Deploy"_s}));
+  makeIcon();
+  ASSERT_FALSE(session().windows().isInNormalState(program().panel()));
+  pressShortcut();
+  EXPECT_TRUE(answersToKeys());
+}
+
+TEST_F(WindowManagerRecoveryTest, PanelMadeAnIconAndHidden_ComesUpByTheShortcutWithTheKeyboard) {
+  if (manager().tiles()) {
+    GTEST_SKIP() << because(manager().name() + u" knows no icons"_s);
+  }
+  startHidden(commands({u"Build"_s, u"Deploy"_s}));
+  const auto other = session().openOtherWindow();
+  makeIcon();
+  ASSERT_FALSE(session().windows().isInNormalState(program().panel()));
+  input().click(session().windows().geometry(other->window()).center());
+  program().settle();
+  pressShortcut();
+  EXPECT_TRUE(answersToKeys());
+}
+
+}  // namespace
+}  // namespace lanternix

@@ -18,6 +18,27 @@ namespace {
 const QString serviceName = u"org.freedesktop.portal.Desktop"_s;
 const QString desktopPath = u"/org/freedesktop/portal/desktop"_s;
 const QString shortcutsInterface = u"org.freedesktop.portal.GlobalShortcuts"_s;
+const QString sessionInterface = u"org.freedesktop.portal.Session"_s;
+const QString requestInterface = u"org.freedesktop.portal.Request"_s;
+
+/// A method as callers have to spell it out.
+struct Method {
+  QString interface;
+  QString name;
+  QString signature;
+};
+
+const Method registerProgram{u"org.freedesktop.host.portal.Registry"_s, u"Register"_s, u"sa{sv}"_s};
+const Method getProperty{u"org.freedesktop.DBus.Properties"_s, u"Get"_s, u"ss"_s};
+const Method createSessionOf{shortcutsInterface, u"CreateSession"_s, u"a{sv}"_s};
+const Method bindShortcutsOf{shortcutsInterface, u"BindShortcuts"_s, u"oa(sa{sv})sa{sv}"_s};
+const Method closeSession{sessionInterface, u"Close"_s, u""_s};
+const Method closeRequest{requestInterface, u"Close"_s, u""_s};
+
+bool isCallOf(const Method &method, const QDBusMessage &call) {
+  return call.interface() == method.interface && call.member() == method.name &&
+         call.signature() == method.signature;
+}
 
 struct Shortcut {
   QString identifier;
@@ -95,8 +116,8 @@ void ShortcutsPortal::press(const QString &identifier, const QString &session,
 }
 
 void ShortcutsPortal::endSession() {
-  auto signal = QDBusMessage::createTargetedSignal(
-      m_client, m_session, u"org.freedesktop.portal.Session"_s, u"Closed"_s);
+  auto signal =
+      QDBusMessage::createTargetedSignal(m_client, m_session, sessionInterface, u"Closed"_s);
   signal.setArguments({QVariantMap()});
   m_bound.remove(m_session);
   m_triggers.remove(m_session);
@@ -115,23 +136,41 @@ bool ShortcutsPortal::handleMessage(const QDBusMessage &message,
 }
 
 void ShortcutsPortal::answer(const QDBusMessage &call) {
-  const bool hasShortcuts = m_nature.shortcuts == Shortcuts::yes;
-  const QString method = call.member();
-  if (method == "Register"_L1 && m_nature.registry == Registry::yes) {
-    m_applications.append(call.arguments().value(0).toString());
-    m_connection.send(call.createReply());
-  } else if (method == "Get"_L1 && hasShortcuts &&
-             call.arguments() == QVariantList{shortcutsInterface, u"version"_s}) {
-    m_connection.send(call.createReply(QVariant::fromValue(QDBusVariant(1U))));
-  } else if (method == "CreateSession"_L1 && hasShortcuts) {
-    createSession(call);
-  } else if (method == "BindShortcuts"_L1 && hasShortcuts) {
-    bindShortcuts(call);
-  } else if (method == "Close"_L1) {
+  if (call.path() == desktopPath) {
+    answerDesktop(call);
+  } else if (isCallOf(closeSession, call) || isCallOf(closeRequest, call)) {
     close(call);
   } else {
     refuse(call);
   }
+  m_callers.insert(call.service());
+}
+
+void ShortcutsPortal::answerDesktop(const QDBusMessage &call) {
+  const bool hasShortcuts = m_nature.shortcuts == Shortcuts::yes;
+  if (isCallOf(registerProgram, call) && m_nature.registry == Registry::yes) {
+    introduce(call);
+  } else if (isCallOf(getProperty, call) && hasShortcuts &&
+             call.arguments() == QVariantList{shortcutsInterface, u"version"_s}) {
+    m_connection.send(call.createReply(QVariant::fromValue(QDBusVariant(1U))));
+  } else if (isCallOf(createSessionOf, call) && hasShortcuts) {
+    createSession(call);
+  } else if (isCallOf(bindShortcutsOf, call) && hasShortcuts) {
+    bindShortcuts(call);
+  } else {
+    refuse(call);
+  }
+}
+
+/// Whoever has called before is known under a name by then, which stays.
+void ShortcutsPortal::introduce(const QDBusMessage &call) {
+  if (m_callers.contains(call.service())) {
+    m_connection.send(call.createErrorReply(u"org.freedesktop.portal.Error.Failed"_s,
+                                            u"The connection has its application already"_s));
+    return;
+  }
+  m_applications.append(call.arguments().constFirst().toString());
+  m_connection.send(call.createReply());
 }
 
 void ShortcutsPortal::createSession(const QDBusMessage &call) {
@@ -170,8 +209,8 @@ void ShortcutsPortal::close(const QDBusMessage &call) {
 void ShortcutsPortal::respond(const QDBusMessage &call, uint code, const QVariantMap &results) {
   const QString path = pathFor(call, u"request"_s, optionsOf(call)[u"handle_token"_s].toString());
   m_connection.send(call.createReply(QVariant::fromValue(QDBusObjectPath(path))));
-  auto signal = QDBusMessage::createTargetedSignal(
-      call.service(), path, u"org.freedesktop.portal.Request"_s, u"Response"_s);
+  auto signal =
+      QDBusMessage::createTargetedSignal(call.service(), path, requestInterface, u"Response"_s);
   signal.setArguments({code, results});
   m_connection.send(signal);
 }

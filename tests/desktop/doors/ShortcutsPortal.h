@@ -9,7 +9,9 @@
 
 namespace lanternix {
 
-/// The global shortcuts of a desktop portal on a session bus, for as long as this object lives.
+/// The global shortcuts of a desktop portal on a session bus, for as long as this object lives. As
+/// the real one does, it knows a method by its interface and signature, and lets a program
+/// introduce itself only on a connection that has called for nothing yet.
 class ShortcutsPortal : public QDBusVirtualObject {
   Q_OBJECT
 
@@ -58,6 +60,8 @@ class ShortcutsPortal : public QDBusVirtualObject {
 
  private:
   void answer(const QDBusMessage &call);
+  void answerDesktop(const QDBusMessage &call);
+  void introduce(const QDBusMessage &call);
   void createSession(const QDBusMessage &call);
   void bindShortcuts(const QDBusMessage &call);
   void close(const QDBusMessage &call);
@@ -71,6 +75,7 @@ class ShortcutsPortal : public QDBusVirtualObject {
   QList<QDBusMessage> m_unanswered;
   QStringList m_calls;
   QStringList m_applications;
+  QSet<QString> m_callers;  // whom a call has been answered to
   QString m_client;
   QString m_session;
   QMap<QString, QString> m_bound;     // identifiers by sessions

@@ -16,6 +16,7 @@ TEST_F(SwayShortcutTest, PortalWithShortcuts_GoesBeforeSway) {
   ShortcutsPortal portal(session->bus().address());
   startHidden();
   ASSERT_TRUE(waitUntil([&] { return !portal.triggers().isEmpty(); }));
+  EXPECT_EQ(portal.applications(), QStringList{u"org.lanternix.Lanternix"_s});
   portal.press(u"toggle"_s);
   EXPECT_TRUE(becomesShown());
   portal.press(u"toggle"_s);

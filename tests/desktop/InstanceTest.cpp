@@ -51,6 +51,19 @@ TEST_F(InstanceTest, StartAfterTheFirstOneEnded_IsTheProgramAgain) {
   expectUsable();
 }
 
+// The program has none of its own, and one of its toolkit's would show the panel nowhere.
+TEST_F(InstanceTest, StartWithOptions_TakesNone) {
+  ProgramEnvironment::write(session().home().dataFile(),
+                            commands({u"Build"_s, u"Deploy"_s}).json());
+  Program program(session(), Program::Disk::writable,
+                  {u"--help"_s, u"-platform"_s, u"offscreen"_s, u"-style"_s, u"windows"_s});
+  program.waitForPanel();
+  input().type(u"dep"_s);
+  input().tap(XK_Return);
+  EXPECT_TRUE(becomesMarked(u"Deploy"_s));
+  EXPECT_TRUE(program.output().isEmpty()) << program.output().toStdString();
+}
+
 class InstanceWithoutBusTest : public InstanceTest {
  protected:
   InstanceWithoutBusTest()

@@ -13,12 +13,12 @@ QString Program::file() {
   return QStringLiteral(LANTERNIX_PROGRAM);
 }
 
-Program::Program(DesktopSession &session, Disk disk)
+Program::Program(DesktopSession &session, Disk disk, const QStringList &arguments)
     : m_session(session), m_process(file(), u"lanternix"_s) {
   if (disk == Disk::full) {
     m_process.forbidFileWrites();
   }
-  m_process.start({}, session.variables());
+  m_process.start(arguments, session.variables());
 }
 
 void Program::waitForPanel() {

@@ -18,7 +18,8 @@ class Program {
   static QString file();
 
   /// Starts it; no window need be there yet.
-  explicit Program(DesktopSession &session, Disk disk = Disk::writable);
+  explicit Program(DesktopSession &session, Disk disk = Disk::writable,
+                   const QStringList &arguments = {});
 
   /// Returns once the panel is on the screen and has the keyboard.
   void waitForPanel();

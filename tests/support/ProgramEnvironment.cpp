@@ -17,6 +17,11 @@ namespace {
 const QString configDirectory = u".config"_s;
 const QString dataDirectory = u".local/share"_s;
 
+/// Where an application with the file \p record keeps one for each of its starts.
+QString startsDirectory(const QString &record) {
+  return record + u".starts"_s;
+}
+
 }  // namespace
 
 ProgramEnvironment::ProgramEnvironment() {
@@ -121,9 +126,12 @@ QString ProgramEnvironment::installApplication(const QString &identifier,
                                                const QStringList &mimeTypes) {
   const QString record = path(identifier + u".arguments"_s);
   const QString script = path(identifier + u".sh"_s);
+  QDir().mkpath(startsDirectory(record));
   // Written beside and renamed, so that who sees the record sees all of it.
-  write(script, "#!/bin/sh\nprintf '%s\\n' \"$@\" > '" + record.toUtf8() + ".part'\nmv '" +
-                    record.toUtf8() + ".part' '" + record.toUtf8() + "'\n");
+  write(script,
+        u"#!/bin/sh\npart='%1'.$$\nprintf '%s\\n' \"$@\" > \"$part\"\n"
+        "ln \"$part\" '%2'\nmv \"$part\" '%1'\n"_s.arg(record, startsDirectory(record))
+            .toUtf8());
   QFile::setPermissions(script, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
   write(path(dataDirectory + u"/applications/"_s + identifier + u".desktop"_s),
         "[Desktop Entry]\nType=Application\nName=" + identifier.toUtf8() +
@@ -134,6 +142,17 @@ QString ProgramEnvironment::installApplication(const QString &identifier,
   write(path(configDirectory + u"/mimeapps.list"_s),
         "[Default Applications]\n" + m_defaultApplications);
   return record;
+}
+
+QStringList ProgramEnvironment::starts(const QString &record) {
+  QStringList starts;
+  const QDir directory(startsDirectory(record));
+  const QStringList files = directory.entryList(QDir::Files);
+  for (const QString &file : files) {
+    starts.append(
+        QString::fromUtf8(read(directory.filePath(file)).value_or(QByteArray())).trimmed());
+  }
+  return starts;
 }
 
 }  // namespace lanternix

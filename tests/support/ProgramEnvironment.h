@@ -50,8 +50,10 @@ class ProgramEnvironment {
 
   /// Installs an application that writes the arguments it is started with, one a line, to the file
   /// returned, and makes it the default for each of \p mimeTypes ("x-scheme-handler/https",
-  /// "inode/directory" ...).
+  /// "inode/directory" ...). A later start writes its own in their place.
   QString installApplication(const QString &identifier, const QStringList &mimeTypes);
+  /// The arguments of every start of the application with the file \p record, in any order.
+  static QStringList starts(const QString &record);
 
  private:
   QTemporaryDir m_directory;

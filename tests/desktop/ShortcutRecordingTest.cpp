@@ -22,6 +22,15 @@ class ShortcutRecordingTest : public SettingsWindowTest {
     return waitUntil([&] { return shows(text); });
   }
 
+  /// Whether the preferences have a shortcut of this key code and these modifiers.
+  bool becomesStored(const QString &keyCode, const QString &modifiers) {
+    return waitUntil([&] {
+      const auto stored = session().home().preference(u"globalShortcut"_s);
+      return stored && stored->contains(u"keyCode\\\":%1,"_s.arg(keyCode)) &&
+             stored->contains(u"modifiers\\\":%1}"_s.arg(modifiers));
+    });
+  }
+
   AccessibilityBus::Node recorder;
 };
 
@@ -45,10 +54,68 @@ TEST_F(ShortcutRecordingTest, TheRecordedKeys_ToggleThePanelAndTheOldOnesDoNot) 
 TEST_F(ShortcutRecordingTest, TheRecordedKeys_AreStored) {
   startRecording();
   input().tap(XK_k, {XK_Control_L, XK_Alt_L});
-  EXPECT_TRUE(waitUntil([this] {
-    const auto stored = session().home().preference(u"globalShortcut"_s);
-    return stored.has_value() && stored->contains(u"40"_s) && stored->contains(u"786432"_s);
-  }));
+  EXPECT_TRUE(becomesStored(u"40"_s, u"786432"_s));
+}
+
+TEST_F(ShortcutRecordingTest, CommandAndOptionWithALetter_AreRecordedAndGoNowhereElse) {
+  startRecording();
+  input().tap(XK_k, {XK_Super_L, XK_Alt_L});
+  EXPECT_TRUE(comesToShow(u"⌥⌘K"_s));
+  EXPECT_TRUE(becomesStored(u"40"_s, u"1572864"_s));
+  program().settle();
+  EXPECT_FALSE(isShown());
+  EXPECT_TRUE(areSettingsShown());
+  input().tap(XK_k, {XK_Super_L, XK_Alt_L});
+  EXPECT_TRUE(becomesShown());
+}
+
+TEST_F(ShortcutRecordingTest, AFunctionKeyUnderCapsLock_IsRecordedWithItsModifiersAlone) {
+  startRecording();
+  input().tap(XK_Caps_Lock);
+  program().settle();
+  EXPECT_TRUE(shows(u"Press shortcut..."_s)) << "the lock is no key of a shortcut";
+  input().tap(XK_F5, {XK_Shift_L});
+  EXPECT_TRUE(comesToShow(u"⇧F5"_s));
+  EXPECT_TRUE(becomesStored(u"96"_s, u"131072"_s));
+  program().settle();
+  input().tap(XK_Caps_Lock);
+  input().tap(XK_F5, {XK_Shift_L});
+  EXPECT_TRUE(becomesShown());
+}
+
+TEST_F(ShortcutRecordingTest, ASecondClick_EndsItAndTheShortcutHolds) {
+  startRecording();
+  click(recorder);
+  EXPECT_TRUE(comesToShow(u"⇧⌘Space"_s));
+  input().tap(XK_k, {XK_Control_L, XK_Alt_L});
+  program().settle();
+  EXPECT_TRUE(shows(u"⇧⌘Space"_s));
+  EXPECT_FALSE(session().home().preference(u"globalShortcut"_s).has_value());
+  pressShortcut();
+  EXPECT_TRUE(becomesShown());
+}
+
+TEST_F(ShortcutRecordingTest, KeysOfAnotherProgram_AreShownAndStayWithIt) {
+  OtherClient other(session().displayName());
+  startRecording();
+  ASSERT_TRUE(other.holdKey(XK_k, XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1));
+  input().tap(XK_k, {XK_Control_L, XK_Alt_L});
+  EXPECT_TRUE(comesToShow(u"⌃⌥K"_s));
+  program().settle();
+  input().tap(XK_k, {XK_Control_L, XK_Alt_L});
+  EXPECT_TRUE(waitUntil([&] { return other.keys().count(XK_k) == 1; }));
+  program().settle();
+  EXPECT_FALSE(isShown());
+  EXPECT_TRUE(other.holdKey(XK_space, XCB_MOD_MASK_4 | XCB_MOD_MASK_SHIFT)) << "these are free too";
+  other.letKeyGo(XK_space, XCB_MOD_MASK_4 | XCB_MOD_MASK_SHIFT);
+
+  click(recorder);
+  require(u"the recorder to wait"_s, [this] { return shows(u"Press shortcut..."_s); });
+  input().tap(XK_F7, {XK_Control_L});
+  ASSERT_TRUE(comesToShow(u"⌃F7"_s));
+  program().settle();
+  input().tap(XK_F7, {XK_Control_L});
+  EXPECT_TRUE(becomesShown());
 }
 
 TEST_F(ShortcutRecordingTest, TheShortcutInForce_CanBeRecordedAgain) {

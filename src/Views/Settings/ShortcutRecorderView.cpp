@@ -1,6 +1,7 @@
 #include "Views/Settings/ShortcutRecorderView.h"
 
 #include "Platform/KeyCodes.h"
+#include "Platform/KeyboardCapture.h"
 #include "Services/HotkeyService.h"
 #include "Views/Style/Contrast.h"
 #include "Views/Style/FillStyle.h"
@@ -13,6 +14,7 @@
 #include <QtGui/QFontDatabase>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QWindow>
 
 #include <algorithm>
 
@@ -83,6 +85,9 @@ void ShortcutRecorderView::watchKeys(bool watch) {
   }
   m_isWatching = watch;
   m_hotkeyService.setPaused(watch);
+  if (QWindow *handle = window()->windowHandle()) {
+    setKeyboardCaptured(*handle, watch);
+  }
   if (watch) {
     QCoreApplication::instance()->installEventFilter(this);
   } else {

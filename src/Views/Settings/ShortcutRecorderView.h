@@ -16,7 +16,8 @@ class HotkeyService;
 /// loses the keyboard.
 ///
 /// The present shortcut does nothing from the click on until the recorded keys are let go, so that
-/// it can be recorded again and that none of these keys is taken for its next press.
+/// it can be recorded again and that none of these keys is taken for its next press. Meanwhile the
+/// window gets the keys of other programs' shortcuts too, which can be recorded like any others.
 class ShortcutRecorderView : public QAbstractButton {
   Q_OBJECT
 

@@ -2,6 +2,7 @@
 #include "Utilities/FloatingPanel.h"
 #include "Utilities/WindowEdgeResizer.h"
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
@@ -18,6 +19,13 @@ class FloatingPanelTest : public testing::Test {
     panel.setFrame({100, 50, 500, 400});
     panel.makeKeyAndOrderFront();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&panel));
+  }
+  /// The mouse keeps its buttons from one test to the next.
+  void TearDown() override {
+    if (QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+      release(Qt::LeftButton, positionOf({250, 200}));
+    }
+    EXPECT_EQ(QGuiApplication::mouseButtons(), Qt::NoButton);
   }
 
   void drag(const QPoint &from, const QPoint &distance) {

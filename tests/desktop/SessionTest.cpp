@@ -1,5 +1,7 @@
 // The harness itself: what these tests show is what the others build on.
 #include "support/DesktopSession.h"
+#include "support/HarnessError.h"
+#include "support/SuspendedProcess.h"
 #include "support/WaitUntil.h"
 
 #include <X11/keysym.h>
@@ -71,6 +73,11 @@ TEST(SessionTest, MissingProgram_NamesItsPackage) {
   } catch (const std::exception &error) {
     EXPECT_THAT(error.what(), testing::HasSubstr("no-such-package"));
   }
+}
+
+TEST(SessionTest, SuspensionOfNoProcess_SaysSo) {
+  EXPECT_THROW(SuspendedProcess(0), HarnessError);
+  EXPECT_THROW(SuspendedProcess(-1), HarnessError);
 }
 
 }  // namespace

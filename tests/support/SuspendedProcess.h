@@ -2,7 +2,7 @@
 
 #include <QtCore/QtGlobal>
 
-#include <csignal>
+#include <sys/types.h>
 
 namespace lanternix {
 
@@ -10,10 +10,9 @@ namespace lanternix {
 /// a disk that has gone.
 class SuspendedProcess {
  public:
-  explicit SuspendedProcess(qint64 processId) : m_processId(static_cast<pid_t>(processId)) {
-    ::kill(m_processId, SIGSTOP);
-  }
-  ~SuspendedProcess() { ::kill(m_processId, SIGCONT); }
+  /// Returns once the process stands still. Throws where that cannot be done.
+  explicit SuspendedProcess(qint64 processId);
+  ~SuspendedProcess();
   Q_DISABLE_COPY_MOVE(SuspendedProcess)
 
  private:

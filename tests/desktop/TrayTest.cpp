@@ -68,6 +68,14 @@ TEST_F(TrayTest, Menu_HasTheEntries) {
   EXPECT_FALSE(menu[1].properties.value(u"icon-data"_s).toByteArray().isEmpty());
 }
 
+TEST_F(TrayTest, MenuWithoutOpenedItems_BeginsWithShowPanel) {
+  tray = makeTray();
+  startHidden(commands({u"Build"_s, u"Deploy"_s}));
+  ASSERT_TRUE(tray->hasItem());
+  EXPECT_THAT(tray->menuTexts(),
+              ElementsAre(u"Show Panel"_s, u"-"_s, u"Settings..."_s, u"-"_s, u"Quit Lanternix"_s));
+}
+
 TEST_F(TrayTest, ChosenItem_Opens) {
   startInTray();
   tray->choose(u"Build"_s);

@@ -1,5 +1,6 @@
 #include "Platform/Linux/AutostartLoginItem.h"
 
+#include "Platform/ApplicationId.h"
 #include "Platform/FileManager.h"
 #include "Platform/Linux/AutostartEntry.h"
 #include "Platform/Linux/BaseDirectories.h"
@@ -19,7 +20,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-const QString placeInDirectory = u"/autostart/org.lanternix.Lanternix.desktop"_s;
+const QString placeInDirectory = u"/autostart/"_s + applicationId + u".desktop"_s;
 
 QString failure(const QString &path, const QString &reason) {
   return path + u": "_s + reason;

@@ -20,7 +20,6 @@ using namespace Qt::StringLiterals;
 
 Q_LOGGING_CATEGORY(instanceLog, "lanternix.instance", QtWarningMsg)
 
-const QString objectPath = u"/org/lanternix/Lanternix"_s;
 const QString interfaceName = u"org.freedesktop.Application"_s;
 
 /// How long a running program may take to answer, in milliseconds. It is asked either way.
@@ -28,7 +27,7 @@ constexpr int patience = 1000;
 
 void askToShow(const QDBusConnection &bus, const ActivationToken &token) {
   auto call =
-      QDBusMessage::createMethodCall(applicationId, objectPath, interfaceName, u"Activate"_s);
+      QDBusMessage::createMethodCall(applicationId, applicationPath, interfaceName, u"Activate"_s);
   call.setArguments({ApplicationAdaptor::platformData(token)});
   const QDBusMessage reply = bus.call(call, QDBus::Block, patience);
   if (reply.type() == QDBusMessage::ErrorMessage) {
@@ -61,7 +60,7 @@ bool BusSingleInstance::isAvailable() {
 bool BusSingleInstance::claim(const ActivationToken &token) {
   QDBusConnection bus = QDBusConnection::sessionBus();
   // The object is there before its name is, so that nobody finds the one without the other.
-  bus.registerObject(objectPath, this);
+  bus.registerObject(applicationPath, this);
   const auto claimed = bus.interface()->registerService(applicationId);
   if (!claimed.isValid()) {
     qCWarning(instanceLog).noquote()
@@ -71,7 +70,7 @@ bool BusSingleInstance::claim(const ActivationToken &token) {
   if (claimed.value() == QDBusConnectionInterface::ServiceRegistered) {
     return true;
   }
-  bus.unregisterObject(objectPath);
+  bus.unregisterObject(applicationPath);
   askToShow(bus, token);
   return false;
 }

@@ -1,5 +1,6 @@
 #include "Platform/Linux/GnomeHotkeyRegistrar.h"
 
+#include "Platform/ApplicationId.h"
 #include "Platform/KeyNames.h"
 #include "Platform/Linux/GnomeKeyBindings.h"
 
@@ -21,9 +22,8 @@ const QString path =
 /// own.
 const QString tool = u"gdbus"_s;
 const QString toggleCommand =
-    tool +
-    u" call --session --dest org.lanternix.Lanternix --object-path /org/lanternix/Lanternix "
-    "--method org.freedesktop.Application.ActivateAction toggle [] {}"_s;
+    tool + u" call --session --dest "_s + applicationId + u" --object-path "_s + applicationPath +
+    u" --method org.freedesktop.Application.ActivateAction toggle [] {}"_s;
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include "Platform/Linux/SwayHotkeyRegistrar.h"
 
+#include "Platform/ApplicationId.h"
 #include "Platform/Linux/SwayConnection.h"
 
 #include <QtCore/QJsonArray>
@@ -17,7 +18,7 @@ using namespace Qt::StringLiterals;
 Q_LOGGING_CATEGORY(hotkeyLog, "lanternix.hotkey", QtWarningMsg)
 
 /// The command that is bound; by it the binding is known among all others.
-constexpr auto command = "nop org.lanternix.Lanternix toggle"_L1;
+const QString command = u"nop "_s + applicationId + u" toggle"_s;
 
 bool isSuccess(const QJsonDocument &answer) {
   // A list with one outcome for each command, or the outcome of the only one there was.

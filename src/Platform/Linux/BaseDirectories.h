@@ -3,9 +3,9 @@
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
-/// The user's base directories, as the desktop's base directory specification has them: the
-/// environment's word where it is an absolute path, else the usual place in the home directory.
-/// Empty when the user has no home directory. None of them need exist.
+/// The user's base directories, which are freedesktop.org's: the environment's word where it is an
+/// absolute path, else the usual place in the home directory. Empty when the user has no home
+/// directory. None of them need exist.
 namespace lanternix::BaseDirectories {
 
 /// Normally ~/.local/share.

@@ -4,8 +4,8 @@
 
 namespace lanternix {
 
-/// The file system through the system's own calls, and the user's data directory as the desktop's
-/// base directory specification has it.
+/// The file system through the system's own calls, and the user's data directory among
+/// freedesktop.org's base directories.
 class PosixFileManager : public FileManager {
  public:
   /// A greater file is not read at all: no document comes near, and memory is the user's.

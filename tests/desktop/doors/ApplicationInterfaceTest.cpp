@@ -76,7 +76,7 @@ TEST_F(ApplicationInterfaceTest, DataOfOtherKindsAndTypes_AreNoTokens) {
   EXPECT_TRUE(first->hears({u"showPanel token= id="_s}));
 }
 
-TEST_F(ApplicationInterfaceTest, Introspection_ShowsTheInterfaceAsItIsSpecified) {
+TEST_F(ApplicationInterfaceTest, Introspection_ShowsTheInterfaceThatDesktopsCall) {
   start();
   const QString xml = shell.introspection().simplified();
   for (const QString &method :

@@ -106,6 +106,14 @@ TEST_F(HotkeyRegistrarOrderTest, Portal_GoesBeforeSwayAndGnome) {
   EXPECT_EQ(gnomesBindings(), "@as []");
 }
 
+TEST_F(HotkeyRegistrarOrderTest, PortalThatWasAskedForOtherThings_IsToldTheProgramsNameFirst) {
+  addPortal();
+  choice();
+  ASSERT_TRUE(waitUntil([this] { return !portal->triggers().isEmpty(); }));
+  EXPECT_TRUE(portal->calls().contains(u"ReadAll"_s));
+  EXPECT_THAT(portal->applications(), ElementsAre(u"org.lanternix.Lanternix"_s));
+}
+
 TEST_F(HotkeyRegistrarOrderTest, BusWithoutAPortal_LeavesItToSway) {
   addGnome();
   addSway();

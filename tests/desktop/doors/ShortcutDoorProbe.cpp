@@ -1,12 +1,15 @@
 #include "Platform/HotkeyRegistrar.h"
 #include "Platform/KeyCodes.h"
 #include "Platform/Linux/HotkeyRegistrarFactory.h"
+#include "Platform/Linux/PortalAppearance.h"
 #include "Platform/Linux/QtWindowSystem.h"
+#include "Platform/Linux/SessionBusAddress.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QTextStream>
 
+#include <memory>
 #include <unistd.h>
 
 // Registers Super+Shift+K at the door that a Wayland session's surroundings lead to, says which
@@ -14,6 +17,9 @@
 int main(int argc, char **argv) {
   using namespace lanternix;
   const QCoreApplication application(argc, argv);
+  // As the program does before, on the connection that it has for everything.
+  const auto appearance =
+      hasSessionBus() ? std::make_unique<PortalAppearance>(QDBusConnection::sessionBus()) : nullptr;
   QtWindowSystem windowSystem;
   const auto registrar = makeWaylandHotkeyRegistrar(windowSystem, connectForShortcuts());
   QTextStream output(stdout);

@@ -53,6 +53,24 @@ TEST_F(ActivationMouseMonitorTest, KeyboardThatGoesToAWindowOfOurOwn_DoesNot) {
   EXPECT_EQ(presses, 0);
 }
 
+TEST_F(ActivationMouseMonitorTest, LossThatAHiddenWindowLeavesBehind_DoesNot) {
+  monitor.setActive(true);
+  monitor.setActive(false);
+  window.hide();
+  // Nothing has been heard of it yet.
+  ASSERT_EQ(QGuiApplication::applicationState(), Qt::ApplicationActive);
+  monitor.setActive(true);
+  other.takeFocus();
+  ASSERT_TRUE(losesActivation());
+  EXPECT_EQ(presses, 0);
+
+  window.show();
+  activate(window);
+  other.takeFocus();
+  ASSERT_TRUE(losesActivation());
+  EXPECT_EQ(presses, 1);
+}
+
 TEST_F(ActivationMouseMonitorTest, WhileStopped_NothingCounts) {
   monitor.setActive(true);
   monitor.setActive(false);

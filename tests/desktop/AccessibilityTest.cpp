@@ -41,7 +41,7 @@ class AccessibilityTest : public DesktopTest {
     });
   }
 
-  AccessibilityBus reader{session()};
+  AccessibilityBus reader{session().variables()};
   AccessibilityBus::Node panel;
 };
 

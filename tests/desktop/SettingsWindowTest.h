@@ -61,7 +61,7 @@ class SettingsWindowTest : public DesktopTest {
   void click(const AccessibilityBus::Node &node) { input().click(reader.geometry(node).center()); }
   void showTab(const QString &name) { click(control(QStringLiteral("page tab"), name)); }
 
-  AccessibilityBus reader{session()};
+  AccessibilityBus reader{session().variables()};
 };
 
 }  // namespace lanternix

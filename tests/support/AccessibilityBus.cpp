@@ -1,6 +1,5 @@
 #include "support/AccessibilityBus.h"
 
-#include "support/DesktopSession.h"
 #include "support/HarnessError.h"
 #include "support/WaitUntil.h"
 
@@ -87,12 +86,11 @@ const std::array heardSignals{
 
 }  // namespace
 
-AccessibilityBus::AccessibilityBus(const DesktopSession &session)
+AccessibilityBus::AccessibilityBus(const QProcessEnvironment &session)
     : m_launcher(launcherPath(), u"at-spi2-core"_s), m_connection(connectionName) {
-  const QProcessEnvironment variables = session.variables();
-  m_launcher.start({u"--launch-immediately"_s, u"--a11y=1"_s}, variables);
+  m_launcher.start({u"--launch-immediately"_s, u"--a11y=1"_s}, session);
   m_connection = QDBusConnection::connectToBus(
-      addressOnSessionBus(variables.value(u"DBUS_SESSION_BUS_ADDRESS"_s)), connectionName);
+      addressOnSessionBus(session.value(u"DBUS_SESSION_BUS_ADDRESS"_s)), connectionName);
   if (!m_connection.isConnected()) {
     throw HarnessError(m_connection.lastError().message());
   }

@@ -11,8 +11,6 @@
 
 namespace lanternix {
 
-class DesktopSession;
-
 /// A session's bus for assistive technologies (AT-SPI), and on it a listener that asks and hears
 /// what a screen reader would. Programs that are started later find the bus and describe
 /// themselves.
@@ -48,8 +46,8 @@ class AccessibilityBus : public QObject {
     showing = 25,
   };
 
-  /// Starts the bus. The session needs a bus of its own.
-  explicit AccessibilityBus(const DesktopSession &session);
+  /// Starts the bus for the session with these variables, which needs a bus of its own.
+  explicit AccessibilityBus(const QProcessEnvironment &session);
   ~AccessibilityBus() override;
 
   /// The root of the program with this name, for which this waits.

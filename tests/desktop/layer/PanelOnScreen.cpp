@@ -30,12 +30,17 @@ QRect panelOnScreen(const QImage &picture, QSize screen) {
   if (picture.isNull()) {
     return {};
   }
-  // The rows that are bright for most of the panel's width, and their widest.
+  // The rows that are bright for most of the panel's width, but for texts, and their widest.
   Run widest;
   const Run rows = longestRun(picture.height(), [&](int y) {
-    const Run row = longestRun(picture.width(), [&](int x) { return isBright(x, y); });
+    int brightPixels = 0;
+    const Run row = longestRun(picture.width(), [&](int x) {
+      const bool bright = isBright(x, y);
+      brightPixels += bright ? 1 : 0;
+      return bright;
+    });
     widest = row.length > widest.length ? row : widest;
-    return row.length > smallestSide;
+    return brightPixels > smallestSide;
   });
   const double scale = static_cast<double>(picture.width()) / screen.width();
   const QRect frame(qRound(widest.first / scale), qRound(rows.first / scale),

@@ -33,12 +33,14 @@ std::optional<QJsonObject> findWindow(const QJsonObject &node, const QString &ti
 
 }  // namespace
 
-SwaySession::SwaySession(const QString &configuration) : m_sway(u"sway"_s, u"sway"_s) {
+SwaySession::SwaySession(const QString &configuration, XServer xServer)
+    : m_sway(u"sway"_s, u"sway"_s) {
   const QString names = m_home.path(u"names"_s);
   ProgramEnvironment::write(
       m_home.path(u"sway.conf"_s),
-      u"xwayland enable\noutput HEADLESS-1 resolution %1x%2\ndefault_border none\n"
-      "exec 'printf \"%s %s\" \"$DISPLAY\" \"$WAYLAND_DISPLAY\" > %3.part && mv %3.part %3'\n%4\n"_s
+      u"xwayland %1\noutput HEADLESS-1 resolution %2x%3\ndefault_border none\n"
+      "exec 'printf \"%s %s\" \"$DISPLAY\" \"$WAYLAND_DISPLAY\" > %4.part && mv %4.part %4'\n%5\n"_s
+          .arg(xServer == XServer::yes ? u"enable"_s : u"disable"_s)
           .arg(screenSize.width())
           .arg(screenSize.height())
           .arg(names, configuration)
@@ -69,7 +71,9 @@ QProcessEnvironment SwaySession::variables() const {
   QProcessEnvironment variables = m_home.variables();
   variables.insert(u"XDG_CURRENT_DESKTOP"_s, u"sway"_s);
   variables.insert(u"XDG_SESSION_TYPE"_s, u"wayland"_s);
-  variables.insert(u"DISPLAY"_s, m_displayName);
+  if (!m_displayName.isEmpty()) {
+    variables.insert(u"DISPLAY"_s, m_displayName);
+  }
   variables.insert(u"WAYLAND_DISPLAY"_s, m_waylandDisplay);
   variables.insert(u"SWAYSOCK"_s, ipcSocket());
   variables.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_bus.address());
@@ -91,14 +95,18 @@ std::optional<QJsonObject> SwaySession::window(const QString &title) const {
   return findWindow(QJsonDocument::fromJson(tree).object(), title);
 }
 
+QImage SwaySession::picture() const {
+  return QImage::fromData(run(u"grim"_s, {u"-t"_s, u"ppm"_s, u"-"_s}), "PPM");
+}
+
 void SwaySession::savePicture(const QString &path) const {
   // The same twice, because a window is drawn anew after sway has given it its size.
-  QByteArray before;
+  QImage before;
   require(u"a picture that stays"_s, [&] {
-    run(u"grim"_s, {path});
-    const QByteArray now = ProgramEnvironment::read(path).value_or(QByteArray());
+    const QImage now = picture();
     return std::exchange(before, now) == now;
   });
+  before.save(path);
 }
 
 QByteArray SwaySession::run(const QString &program, const QStringList &arguments) const {

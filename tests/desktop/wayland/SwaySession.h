@@ -6,19 +6,22 @@
 #include "support/SessionBus.h"
 
 #include <QtCore/QJsonObject>
+#include <QtGui/QImage>
 
 #include <memory>
 #include <optional>
 
 namespace lanternix {
 
-/// A session of the compositor sway on a screen that is only memory, with a server for X programs,
-/// a bus, a home directory, a keyboard and a mouse. Nothing moves in it: windows come and go at
-/// once.
+/// A session of the compositor sway on a screen that is only memory, with a bus, a home directory,
+/// a keyboard and a mouse. Nothing moves in it: windows come and go at once.
 class SwaySession {
  public:
+  /// Whether the compositor starts a server for X programs. Without one there is no DISPLAY.
+  enum class XServer { yes, no };
+
   /// \p configuration are lines of sway's configuration beside the session's own.
-  explicit SwaySession(const QString &configuration = {});
+  explicit SwaySession(const QString &configuration = {}, XServer xServer = XServer::yes);
 
   static constexpr QSize screenSize{1280, 800};
 
@@ -40,6 +43,8 @@ class SwaySession {
   std::optional<QJsonObject> window(const QString &title) const;
 
   /// A picture of the screen. Needs grim.
+  QImage picture() const;
+  /// Saves one in which nothing moves any more.
   void savePicture(const QString &path) const;
 
  private:

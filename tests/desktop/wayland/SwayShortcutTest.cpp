@@ -1,8 +1,12 @@
 #include "desktop/doors/ShortcutsPortal.h"
 #include "desktop/wayland/SwayTest.h"
+#include "support/AccessibilityBus.h"
+#include "support/OtherClient.h"
 
 #include <QtCore/QFile>
 #include <QtCore/QProcess>
+
+#include <X11/keysym.h>
 
 namespace lanternix {
 namespace {
@@ -72,6 +76,30 @@ TEST_F(SwayShortcutTest, ShortcutOfACharacterKey_GoesByItsPosition) {
   startHidden();
   input().tap(KEY_Z, {KEY_LEFTCTRL, KEY_LEFTALT});
   EXPECT_TRUE(becomesShown());
+}
+
+TEST_F(SwayShortcutTest, RecordedShortcut_TogglesThePanel_AndTheOldOneReachesTheWindowBelow) {
+  startSession();
+  AccessibilityBus reader(variables());
+  OtherClient other(session->displayName());
+  other.show();
+  startProgram();
+  recordShortcut(
+      reader,
+      [this] {
+        input().tap(KEY_K, {KEY_LEFTCTRL, KEY_LEFTALT});
+      },
+      u"⌃⌥K"_s);
+  input().tap(KEY_W, {KEY_LEFTCTRL});
+  require(u"the other window with the keyboard"_s, [&] { return other.hasFocus(); });
+  pressShortcut();
+  EXPECT_TRUE(waitUntil([&] { return other.keys().contains(XK_space); }));
+  EXPECT_FALSE(isShown());
+  input().tap(KEY_K, {KEY_LEFTCTRL, KEY_LEFTALT});
+  EXPECT_TRUE(becomesShown());
+  EXPECT_FALSE(other.keys().contains(XK_k));
+  input().tap(KEY_K, {KEY_LEFTCTRL, KEY_LEFTALT});
+  EXPECT_TRUE(becomesHidden());
 }
 
 TEST_F(SwayShortcutTest, ReloadedConfiguration_KeepsTheShortcut) {

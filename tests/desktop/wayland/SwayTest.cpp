@@ -1,5 +1,6 @@
 #include "desktop/wayland/SwayTest.h"
 
+#include "support/AccessibilityBus.h"
 #include "support/ProgramPing.h"
 #include "support/SampleGroups.h"
 #include "support/WindowProbe.h"
@@ -11,8 +12,8 @@ namespace lanternix {
 
 using namespace Qt::StringLiterals;
 
-void SwayTest::startSession(const QString &configuration) {
-  session = std::make_unique<SwaySession>(configuration);
+void SwayTest::startSession(const QString &configuration, SwaySession::XServer xServer) {
+  session = std::make_unique<SwaySession>(configuration, xServer);
 }
 
 QProcessEnvironment &SwayTest::variables() {
@@ -74,6 +75,22 @@ bool SwayTest::staysShown() const {
 void SwayTest::settle() const {
   const auto window = WindowProbe(session->displayName()).find(u"lanternix"_s, u"Lanternix"_s);
   ProgramPing(session->displayName(), window.value()).waitForAnswer();
+}
+
+void SwayTest::recordShortcut(AccessibilityBus &reader, const std::function<void()> &press,
+                              const QString &expected) {
+  input().tap(KEY_COMMA, {KEY_LEFTCTRL});
+  const auto window =
+      reader.find(reader.program(u"Lanternix"_s), u"frame"_s, u"Lanternix Settings"_s);
+  require(u"the settings with the keyboard"_s,
+          [&] { return reader.has(window, AccessibilityBus::State::active); });
+  reader.act(reader.find(window, u"page tab"_s, u"Settings"_s));
+  const auto recorder = reader.find(window, u"push button"_s, u"Toggle Popup Panel"_s);
+  const auto shows = [&](const QString &text) { return reader.description(recorder) == text; };
+  reader.act(recorder);
+  require(u"the recorder to wait"_s, [&] { return shows(u"Press shortcut..."_s); });
+  press();
+  require(u"the recorder to show "_s + expected, [&] { return shows(expected); });
 }
 
 QString SwayTest::run(QStringList commandLine) {

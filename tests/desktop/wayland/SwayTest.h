@@ -6,11 +6,14 @@
 #include <QtCore/QJsonObject>
 #include <QtCore/QRect>
 
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
 
 namespace lanternix {
+
+class AccessibilityBus;
 
 /// The built program in a session of sway, with the shortcut that it comes with unless a test says
 /// otherwise. Its items are the commands "build", "deploy" and "report", which leave a mark of
@@ -18,7 +21,8 @@ namespace lanternix {
 class SwayTest : public testing::Test {
  protected:
   /// With \p configuration beside the session's own. Otherwise launch() starts a plain one.
-  void startSession(const QString &configuration = {});
+  void startSession(const QString &configuration = {},
+                    SwaySession::XServer xServer = SwaySession::XServer::yes);
   /// What the program is started with; a test may change it before.
   QProcessEnvironment &variables();
 
@@ -47,6 +51,11 @@ class SwayTest : public testing::Test {
   /// Returns once the program has nothing more to ask of sway for the panel it has just shown: a
   /// press in between would be too quick for any hand.
   void settle() const;
+
+  /// Opens the settings from the panel and lets \p press the keys of another shortcut, which the
+  /// settings then show as \p expected. \p reader was there before the program.
+  void recordShortcut(AccessibilityBus &reader, const std::function<void()> &press,
+                      const QString &expected);
 
   QString environmentFile() const { return session->home().path(QStringLiteral("environment")); }
 

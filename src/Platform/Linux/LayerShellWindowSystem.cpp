@@ -13,6 +13,15 @@ namespace {
 
 using LayerWindow = LayerShellQt::Window;
 
+/// On demand, a surface of this layer gets the keyboard as it comes up, and lets go of it when
+/// another window is pressed. Sway gives it back to the window that had it before, at once, unless
+/// the surface wants it for as long as it is there.
+LayerWindow::KeyboardInteractivity keyboardInteractivity() {
+  const bool isSway = !qEnvironmentVariableIsEmpty("SWAYSOCK");
+  return isSway ? LayerWindow::KeyboardInteractivityExclusive
+                : LayerWindow::KeyboardInteractivityOnDemand;
+}
+
 }  // namespace
 
 LayerShellWindowSystem::LayerShellWindowSystem(std::unique_ptr<WaylandLayerShell> shell)
@@ -30,9 +39,7 @@ void LayerShellWindowSystem::preparePanel(QWindow &window) {
   m_panel = &window;
   surface->setLayer(LayerWindow::LayerOverlay);
   surface->setScope(QStringLiteral("lanternix"));
-  // With which a surface of this layer gets the keyboard as it comes up, and lets go of it when
-  // another window is pressed.
-  surface->setKeyboardInteractivity(LayerWindow::KeyboardInteractivityOnDemand);
+  surface->setKeyboardInteractivity(keyboardInteractivity());
   surface->setScreenConfiguration(LayerWindow::ScreenFromCompositor);
   surface->setAnchors({LayerWindow::AnchorLeft, LayerWindow::AnchorTop});
 }

@@ -46,6 +46,19 @@ class LayerPanelTest : public testing::TestWithParam<Compositor> {
     return process;
   }
 
+  /// Starts the program over a terminal that has the keyboard and fills the screen.
+  void startOverTerminal(const QString &option) {
+    session = std::make_unique<LayerSession>(GetParam());
+    const auto ground = [this] { return session->picture().pixelColor(640, 700); };
+    const QColor empty = ground();
+    terminal = std::make_unique<ChildProcess>(u"foot"_s, u"foot"_s);
+    terminal->start({option}, session->variables());
+    require(u"the terminal"_s, [&] { return ground() != empty; });
+    writeGroups();
+    program = run();
+    require(u"the panel"_s, [this] { return isShown(); });
+  }
+
   /// Shows the hidden panel, as a second start does.
   void showAgain() {
     const auto second = run();
@@ -128,6 +141,7 @@ class LayerPanelTest : public testing::TestWithParam<Compositor> {
   WaylandInput &input() { return session->input(); }
 
   std::unique_ptr<LayerSession> session;
+  std::unique_ptr<ChildProcess> terminal;
   std::unique_ptr<ChildProcess> program;
 };
 
@@ -210,6 +224,13 @@ TEST_P(LayerPanelTest, LeftTopCorner_LeavesTheOppositeOneWhereItIs) {
   EXPECT_EQ(frame().bottomRight(), before.bottomRight());
 }
 
+TEST_P(LayerPanelTest, CornerDraggedFarInwards_StopsAtTheSmallestSize) {
+  start();
+  const QRect before = frame();
+  input().drag(before.bottomRight() - QPoint(1, 1), before.bottomRight() - QPoint(600, 450));
+  EXPECT_TRUE(becomes(QRect(before.topLeft(), QSize(400, 300))));
+}
+
 TEST_P(LayerPanelTest, ContextMenu_LeavesThePanelShown_AndIsUsable) {
   start();
   openMenu(frame());
@@ -256,19 +277,51 @@ TEST_P(LayerPanelTest, DarkDesktop_MakesPanelMenuAndSettingsDark) {
 
 TEST_P(LayerPanelTest, PressOnAnotherWindow_HidesThePanel) {
   if (GetParam() == Compositor::sway) {
-    GTEST_SKIP() << "a press on the window that had the keyboard before does not take it back here";
+    GTEST_SKIP() << "while the panel is there, a press on no window takes the keyboard here";
   }
-  session = std::make_unique<LayerSession>(GetParam());
-  const QImage empty = settledPicture();
-  ChildProcess terminal(u"foot"_s, u"foot"_s);
-  terminal.start({u"--maximized"_s}, session->variables());
-  require(u"the terminal"_s, [&] { return session->picture() != empty; });
-  writeGroups();
-  program = run();
-  require(u"the panel"_s, [this] { return isShown(); });
+  startOverTerminal(u"--maximized"_s);
   settledPicture();
   input().click({60, 700});
   EXPECT_TRUE(becomesHidden());
+}
+
+TEST_P(LayerPanelTest, OverAFullScreenWindow_ThePanelIsSeenAndHasTheKeyboard) {
+  startOverTerminal(u"--fullscreen"_s);
+  savePicture(u"over-full-screen"_s);
+  input().type(u"dep"_s);
+  input().tap(KEY_ENTER);
+  EXPECT_TRUE(session->home().becomesMarked(u"deploy"_s));
+}
+
+TEST_P(LayerPanelTest, AnotherWorkspace_HasThePanelWithTheKeyboardToo) {
+  if (GetParam() == Compositor::kwin) {
+    GTEST_SKIP() << "inside another screen, this compositor has but one";
+  }
+  startOverTerminal(u"--maximized"_s);
+  const QRect panel = frame();
+  session->switchWorkspace();
+  settledPicture();
+  EXPECT_EQ(frame(), panel);
+  input().type(u"bui"_s);
+  input().tap(KEY_ENTER);
+  EXPECT_TRUE(session->home().becomesMarked(u"build"_s));
+}
+
+TEST_P(LayerPanelTest, Shortcut_HidesAndShowsThePanel_WhichTakesTheLettersThatFollow) {
+  if (GetParam() == Compositor::kwin) {
+    GTEST_SKIP() << "this compositor has no door for shortcuts but the portal";
+  }
+  start();
+  const auto pressShortcut = [this] { input().tap(KEY_SPACE, {KEY_LEFTMETA, KEY_LEFTSHIFT}); };
+  for (int round = 0; round < 3; ++round) {
+    pressShortcut();
+    ASSERT_TRUE(becomesHidden());
+    pressShortcut();
+    require(u"the panel"_s, [this] { return isShown(); });
+  }
+  input().type(u"bui"_s);
+  input().tap(KEY_ENTER);
+  EXPECT_TRUE(session->home().becomesMarked(u"build"_s));
 }
 
 TEST_P(LayerPanelTest, SettingsFromThePanel_HaveTheKeyboard) {

@@ -105,6 +105,10 @@ void LayerSession::unplugScreen() const {
   run(u"swaymsg"_s, {u"output HEADLESS-2 unplug"_s});
 }
 
+void LayerSession::switchWorkspace() const {
+  run(u"swaymsg"_s, {u"workspace another"_s});
+}
+
 QImage LayerSession::swayPicture() const {
   return QImage::fromData(run(u"grim"_s, {u"-t"_s, u"ppm"_s, u"-"_s}), "PPM");
 }

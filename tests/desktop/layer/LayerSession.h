@@ -37,6 +37,9 @@ class LayerSession {
   /// Unplugs it again.
   void unplugScreen() const;
 
+  /// Goes to an empty workspace. Sway only.
+  void switchWorkspace() const;
+
   /// A picture of the screen, in real pixels; of both side by side, while there are two.
   QImage picture() const;
 

@@ -7,7 +7,8 @@ namespace lanternix {
 
 using namespace std::chrono_literals;
 
-ActivationMouseMonitor::ActivationMouseMonitor() {
+ActivationMouseMonitor::ActivationMouseMonitor(LossByHiding lossByHiding)
+    : m_lossByHiding(lossByHiding) {
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
           [this](Qt::ApplicationState state) {
             if (m_active && state == Qt::ApplicationInactive) {
@@ -23,10 +24,12 @@ ActivationMouseMonitor::ActivationMouseMonitor() {
 
 void ActivationMouseMonitor::setActive(bool active) {
   if (active && !m_active) {
-    // Qt hears that a hidden window has lost the keyboard only when the system says so, and until
-    // then takes it for the one that has it.
+    // Qt takes a hidden window for the one with the keyboard until the window system says
+    // otherwise.
     const QWindow *window = QGuiApplication::focusWindow();
-    m_lateLoss = window != nullptr && !window->isVisible() ? QDeadlineTimer(1s) : QDeadlineTimer();
+    const bool isDue =
+        m_lossByHiding == LossByHiding::toldLate && window != nullptr && !window->isVisible();
+    m_lateLoss = isDue ? QDeadlineTimer(1s) : QDeadlineTimer();
   }
   m_active = active;
 }

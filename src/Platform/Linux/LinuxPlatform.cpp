@@ -89,7 +89,7 @@ class X11Platform : public LinuxPlatform {
  private:
   std::unique_ptr<GlobalMouseMonitor> makeMouseMonitor() {
     if (m_server.isXWayland()) {
-      return std::make_unique<ActivationMouseMonitor>();
+      return std::make_unique<ActivationMouseMonitor>(ActivationMouseMonitor::LossByHiding::untold);
     }
     return std::make_unique<XInputMouseMonitor>(m_server, m_eventTime);
   }
@@ -114,7 +114,7 @@ class WaylandPlatform : public LinuxPlatform {
   HotkeyRegistrar &hotkeyRegistrar() override { return *m_hotkeyRegistrar; }
 
  private:
-  ActivationMouseMonitor m_mouseMonitor;
+  ActivationMouseMonitor m_mouseMonitor{ActivationMouseMonitor::LossByHiding::toldLate};
   const std::unique_ptr<WindowSystem> m_windowSystem = makeWaylandWindowSystem();
   const std::unique_ptr<HotkeyRegistrar> m_hotkeyRegistrar =
       makeWaylandHotkeyRegistrar(*m_windowSystem, connectForShortcuts());

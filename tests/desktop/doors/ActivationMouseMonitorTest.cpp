@@ -36,7 +36,7 @@ class ActivationMouseMonitorTest : public testing::Test {
   QWindow window;
   QWindow second;
   OtherClient other{testDisplay().name()};
-  ActivationMouseMonitor monitor;
+  ActivationMouseMonitor monitor{ActivationMouseMonitor::LossByHiding::toldLate};
   int presses = 0;
 };
 

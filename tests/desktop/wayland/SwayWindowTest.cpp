@@ -24,6 +24,15 @@ class SwayWindowTest : public SwayTest {
     return frame();
   }
 
+  /// Returns once the panel knows that it has the keyboard: a press before that would be too quick
+  /// for any hand.
+  void settle() {
+    const QRect list = requireFrame().adjusted(20, 150, -20, -60);
+    const QImage before = session->picture().copy(list);
+    input().type(u"dep"_s);
+    require(u"the found item"_s, [&] { return session->picture().copy(list) != before; });
+  }
+
   /// Whether the panel is there, give or take the step by which a drag has begun and sway's
   /// rounding.
   bool isNear(const QRect &expected) const {
@@ -175,6 +184,7 @@ TEST_F(SwayWindowTest, PressOnAnotherWindow_HidesThePanel) {
 
 TEST_F(SwayWindowTest, PressOnTheBareDesktop_HidesThePanel) {
   startProgram();
+  settle();
   session->click({5, 5});
   EXPECT_TRUE(becomesHidden());
 }

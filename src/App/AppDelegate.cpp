@@ -135,13 +135,13 @@ void AppDelegate::followScreen(const QScreen *screen) {
 }
 
 /// Taskbars and on-screen keyboards come and go: the panel stays where the user has put it as long
-/// as there is room for it. Of a screen that has become larger, it may be told only now how much of
-/// it can be used.
+/// as there is room for it, and most of all while it is in a hand. Of a screen that has become
+/// larger, it may be told only now how much of it can be used.
 void AppDelegate::followWorkArea(const QScreen *screen) {
   const QRect workArea = m_windowSystem.workArea(*screen);
   const bool hasRoom =
       workArea.contains(m_panel->frame()) && m_panel->frame().size() == panelFrame(workArea).size();
-  if (!hasRoom) {
+  if (!hasRoom && !m_panel->isInTheUsersHand()) {
     followScreen(screen);
   }
 }

@@ -24,8 +24,8 @@ class WindowSystem : public QObject {
   /// one under the pointer, else the primary one. Null only without any screen.
   virtual QScreen *activeScreen() const = 0;
 
-  /// Where a panel on \p screen may go: what the desktop's own bars leave of it, in the coordinates
-  /// of windows' geometries.
+  /// Where a panel on \p screen, or on the one that the system puts it on, may go: what the
+  /// desktop's own bars leave of it, in the coordinates of windows' geometries.
   virtual QRect workArea(const QScreen &screen) const = 0;
 
   /// The program is about to answer a request of the user's that came with \p token: by the next

@@ -62,6 +62,7 @@ void FloatingPanel::makeKeyAndOrderFront() {
   }
   m_windowSystem.setGeometry(*windowHandle(), m_wantedGeometry);  // where Qt keeps no positions
   if (!isVisible()) {
+    m_hasBeenOnScreen = false;
     awaitPlace();
     updateShape();  // the screen may have another scale now
     m_windowSystem.preparePanel(*windowHandle());
@@ -76,7 +77,11 @@ void FloatingPanel::makeKeyAndOrderFront() {
 }
 
 bool FloatingPanel::isTakenAway() const {
-  return isVisible() && m_hasBeenSeen && !m_windowSystem.isOnScreen(*windowHandle());
+  return isVisible() && m_hasBeenOnScreen && !m_windowSystem.isOnScreen(*windowHandle());
+}
+
+bool FloatingPanel::isInTheUsersHand() const {
+  return m_isDragged || m_edgeResizer->isResizing() || m_resizePause.isActive();
 }
 
 void FloatingPanel::showAnew() {
@@ -148,6 +153,7 @@ void FloatingPanel::moveEvent(QMoveEvent * /*event*/) {
 }
 
 void FloatingPanel::paintEvent(QPaintEvent *event) {
+  m_hasBeenOnScreen = true;
   if (!m_hasBeenSeen) {
     m_hasBeenSeen = true;
     QMetaObject::invokeMethod(this, &FloatingPanel::confirmPlace, Qt::QueuedConnection);

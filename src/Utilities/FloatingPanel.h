@@ -43,6 +43,9 @@ class FloatingPanel : public QWidget {
   /// it. For isVisible() it has never gone.
   bool isTakenAway() const;
 
+  /// Whether the user is moving or resizing the window right now.
+  bool isInTheUsersHand() const;
+
   /// Hides the window.
   void orderOut();
 
@@ -82,6 +85,8 @@ class FloatingPanel : public QWidget {
   /// Runs while a resize that the window manager carries out is under way, which has no end of its
   /// own that a program could see.
   QTimer m_resizePause;
+  /// Since it was shown.
+  bool m_hasBeenOnScreen = false;
   /// Since it was shown or given a frame.
   bool m_hasBeenSeen = false;
   /// False until the window has, since then, had the size that it was given. What it passes

@@ -155,6 +155,15 @@ TEST_F(ShortcutRecordingTest, UnderACyrillicLayout_TheKeyIsTheOneInThatPlace) {
   EXPECT_TRUE(becomesShown());
 }
 
+TEST_F(ShortcutRecordingTest, WithoutAKey_OtherProgramsGetTheKeyboardBackAfterAWhile) {
+  startRecording();
+  const OtherClient locker(session().displayName());
+  EXPECT_TRUE(waitUntil([&] { return locker.isKeyboardTaken(); }));
+  EXPECT_TRUE(waitUntil([&] { return !locker.isKeyboardTaken(); }, std::chrono::seconds(30)));
+  input().tap(XK_k, {XK_Control_L, XK_Alt_L});
+  EXPECT_TRUE(comesToShow(u"⌃⌥K"_s));
+}
+
 TEST_F(ShortcutRecordingTest, AnotherWindow_EndsItAndTheShortcutHolds) {
   startRecording();
   const auto other = session().openOtherWindow();

@@ -28,10 +28,14 @@ class WindowManagerRecoveryTest : public WindowManagerTest {
     }
   }
 
-  /// Shows the panel and has an icon made of it, so late that this is taken for meant.
-  void makeIcon() {
+  /// Shows the panel for so long that whoever takes it away then means it.
+  void showTooLongToRecover() {
     showByShortcut();
     waitUntil([] { return false; }, std::chrono::milliseconds(2100));
+  }
+
+  void makeIcon() {
+    showTooLongToRecover();
     session().windows().iconify(program().panel());
     program().settle();
   }
@@ -84,6 +88,19 @@ TEST_F(WindowManagerRecoveryTest, PanelOverTheSettingsShownByABusyWindowManager_
   });
   program().settle();
   toggleUnderABusyWindowManager();
+  EXPECT_TRUE(answersToKeys());
+}
+
+TEST_F(WindowManagerRecoveryTest, PanelTakenForHiddenLater_ComesUpByTheShortcutWithTheKeyboard) {
+  if (manager().name() == u"xfwm4"_s) {
+    GTEST_SKIP() << because(u"does not take a window on the screen for hidden"_s);
+  }
+  startHidden(commands({u"Build"_s, u"Deploy"_s}));
+  showTooLongToRecover();
+  session().windows().withdraw(program().panel());
+  program().settle();
+  ASSERT_FALSE(session().windows().isInNormalState(program().panel()));
+  pressShortcut();
   EXPECT_TRUE(answersToKeys());
 }
 

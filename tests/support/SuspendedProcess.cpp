@@ -29,7 +29,10 @@ SuspendedProcess::SuspendedProcess(qint64 processId) : m_processId(static_cast<p
   if (m_processId <= 0 || ::kill(m_processId, SIGSTOP) != 0) {
     throw HarnessError(u"the process %1 cannot be stopped"_s.arg(processId));
   }
-  require(u"the process to stand still"_s, [this] { return stateOf(m_processId) == 'T'; });
+  if (!waitUntil([this] { return stateOf(m_processId) == 'T'; })) {
+    ::kill(m_processId, SIGCONT);
+    throw HarnessError(u"the process %1 does not stand still"_s.arg(processId));
+  }
 }
 
 SuspendedProcess::~SuspendedProcess() {

@@ -173,6 +173,9 @@ void WindowProbe::iconify(xcb_window_t window) {
 void WindowProbe::tellWindowManager(xcb_window_t window, const char *message) {
   const quint32 events = XCB_EVENT_MASK_PROPERTY_CHANGE;
   xcb_change_window_attributes(m_connection, window, XCB_CW_EVENT_MASK, &events);
+  m_connection.sync();
+  while (const XReply<xcb_generic_event_t> earlier{xcb_poll_for_event(m_connection)}) {
+  }
   xcb_send_event(m_connection, 0, m_connection.root(),
                  XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
                  message);

@@ -1,17 +1,30 @@
 #include "Platform/KeyboardCapture.h"
 
+#include <QtCore/QLoggingCategory>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
 
+#include <xcb/xcb.h>
+
 namespace lanternix {
 
-using namespace Qt::StringLiterals;
+namespace {
+
+Q_LOGGING_CATEGORY(keyboardLog, "lanternix.keyboard", QtWarningMsg)
+
+}  // namespace
 
 void setKeyboardCaptured(QWindow &window, bool captured) {
-  // Others would only complain that they cannot.
-  if (QGuiApplication::platformName() == "xcb"_L1) {
-    window.setKeyboardGrabEnabled(captured);
+  const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (x11 == nullptr) {
+    return;  // others would only complain that they cannot
   }
+  if (!window.setKeyboardGrabEnabled(captured) && captured) {
+    qCInfo(keyboardLog) << "Another program has the keyboard for itself: its keys cannot be"
+                        << "recorded";
+  }
+  // Qt's requests wait for the next one that needs an answer, which may be long in coming.
+  xcb_flush(x11->connection());
 }
 
 }  // namespace lanternix

@@ -1,5 +1,6 @@
 #include "Platform/Linux/LayerShellWindowSystem.h"
 
+#include "Platform/Linux/SwayConnection.h"
 #include "Platform/Linux/WaylandWindowSystemFactory.h"
 
 #include <QtCore/QEvent>
@@ -17,7 +18,8 @@ using LayerWindow = LayerShellQt::Window;
 /// another window is pressed. Sway gives it back to the window that had it before, at once, unless
 /// the surface wants it for as long as it is there.
 LayerWindow::KeyboardInteractivity keyboardInteractivity() {
-  const bool isSway = !qEnvironmentVariableIsEmpty("SWAYSOCK");
+  // The variable alone may be left from an earlier session.
+  static const bool isSway = SwayConnection(qEnvironmentVariable("SWAYSOCK")).isOpen();
   return isSway ? LayerWindow::KeyboardInteractivityExclusive
                 : LayerWindow::KeyboardInteractivityOnDemand;
 }

@@ -18,6 +18,7 @@ class LayerShellWindowSystem : public QtWindowSystem {
  public:
   explicit LayerShellWindowSystem(std::unique_ptr<WaylandLayerShell> shell);
 
+  /// Of the screen that the compositor would choose, which is where the panel goes.
   QRect workArea(const QScreen &screen) const override;
   void preparePanel(QWindow &window) override;
   void prepareHiding(QWindow &window) override;

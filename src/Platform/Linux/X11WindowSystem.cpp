@@ -124,23 +124,26 @@ void X11WindowSystem::setMarks(xcb_window_t panel) {
 void X11WindowSystem::prepareHiding(QWindow &window) {
   m_keyboardHold.end();
   m_panelWatch.noteHiding();
+  m_hasBeenLost = false;
   const xcb_window_t panel = nativeWindow(window);
   comesTrue([&] { return isViewable(panel) && (isManaged(panel) || !hasWindowManager()); });
   m_startupNotification.end();
 }
 
-/// Once only: a person who takes the panel away after this means it.
+/// Until the panel is as it should be: a person who takes it away once more means it.
 void X11WindowSystem::restore(QWindow &panel) {
   if (!hasWindowManager()) {
     return;
   }
   const xcb_window_t window = nativeWindow(panel);
   if (managedState(window) != normalState) {
-    m_panelWatch.stop();
+    m_hasBeenLost = true;
     Q_EMIT panelLost();
   } else if (!hasFocus(window) && modalWindow() == nullptr) {
-    m_panelWatch.stop();
+    m_hasBeenLost = true;
     activate(panel);
+  } else if (m_hasBeenLost) {
+    m_panelWatch.stop();
   }
 }
 

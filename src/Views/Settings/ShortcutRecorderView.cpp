@@ -19,6 +19,7 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace lanternix {
 
@@ -50,6 +51,9 @@ ShortcutRecorderView::ShortcutRecorderView(HotkeyService &hotkeyService, QWidget
           [this] { m_isRecording ? stopRecording() : startRecording(); });
   connect(&hotkeyService, &HotkeyService::currentShortcutChanged, this,
           &ShortcutRecorderView::updateLabel);
+  m_captureLimit.setSingleShot(true);
+  m_captureLimit.setInterval(10s);
+  connect(&m_captureLimit, &QTimer::timeout, this, [this] { captureKeyboard(false); });
   updateLabel();
 }
 
@@ -85,13 +89,25 @@ void ShortcutRecorderView::watchKeys(bool watch) {
   }
   m_isWatching = watch;
   m_hotkeyService.setPaused(watch);
-  if (QWindow *handle = window()->windowHandle()) {
-    setKeyboardCaptured(*handle, watch);
-  }
+  captureKeyboard(watch && window()->isActiveWindow());
   if (watch) {
     QCoreApplication::instance()->installEventFilter(this);
   } else {
     QCoreApplication::instance()->removeEventFilter(this);
+  }
+}
+
+void ShortcutRecorderView::captureKeyboard(bool capture) {
+  QWindow *handle = window()->windowHandle();
+  if (capture == m_isCapturing || handle == nullptr) {
+    return;
+  }
+  m_isCapturing = capture;
+  setKeyboardCaptured(*handle, capture);
+  if (capture) {
+    m_captureLimit.start();
+  } else {
+    m_captureLimit.stop();
   }
 }
 
@@ -145,6 +161,8 @@ bool ShortcutRecorderView::handleRelease(const QKeyEvent &release) {
 bool ShortcutRecorderView::event(QEvent *event) {
   if (event->type() == QEvent::WindowDeactivate) {
     stopRecording();
+  } else if (event->type() == QEvent::WindowActivate) {
+    captureKeyboard(m_isWatching);
   }
   return QAbstractButton::event(event);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QTimer>
 #include <QtWidgets/QAbstractButton>
 
 #include <optional>
@@ -16,8 +17,9 @@ class HotkeyService;
 /// loses the keyboard.
 ///
 /// The present shortcut does nothing from the click on until the recorded keys are let go, so that
-/// it can be recorded again and that none of these keys is taken for its next press. Meanwhile the
-/// window gets the keys of other programs' shortcuts too, which can be recorded like any others.
+/// it can be recorded again and that none of these keys is taken for its next press. For ten
+/// seconds the window gets the keys of other programs' shortcuts too, which can be recorded like
+/// any others.
 class ShortcutRecorderView : public QAbstractButton {
   Q_OBJECT
 
@@ -42,6 +44,7 @@ class ShortcutRecorderView : public QAbstractButton {
   void record(quint32 keyCode, quint32 modifiers, const QKeyEvent &press);
   void setRecording(bool recording);
   void watchKeys(bool watch);
+  void captureKeyboard(bool capture);
   void updateLabel();
   bool handlePress(QKeyEvent &press);
   bool handleRelease(const QKeyEvent &release);
@@ -53,6 +56,9 @@ class ShortcutRecorderView : public QAbstractButton {
   HotkeyService &m_hotkeyService;
   bool m_isRecording = false;
   bool m_isWatching = false;
+  bool m_isCapturing = false;
+  /// No screen can be locked meanwhile, so this ends although the user has gone.
+  QTimer m_captureLimit;
   /// The scan code of the key that was recorded, until it is let go.
   std::optional<quint32> m_heldKey;
 };

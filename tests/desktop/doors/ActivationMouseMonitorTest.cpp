@@ -71,6 +71,19 @@ TEST_F(ActivationMouseMonitorTest, LossThatAHiddenWindowLeavesBehind_DoesNot) {
   EXPECT_EQ(presses, 1);
 }
 
+// So soon after a hiding the next loss is the user's, where the hidden window's has been told.
+TEST_F(ActivationMouseMonitorTest, WhereNoLossIsToldLate_TheFirstAfterAHidingCounts) {
+  ActivationMouseMonitor prompt(ActivationMouseMonitor::LossByHiding::untold);
+  int losses = 0;
+  QObject::connect(&prompt, &GlobalMouseMonitor::pressedOutside, [&] { ++losses; });
+  window.hide();
+  ASSERT_EQ(QGuiApplication::applicationState(), Qt::ApplicationActive);
+  prompt.setActive(true);
+  other.takeFocus();
+  ASSERT_TRUE(losesActivation());
+  EXPECT_EQ(losses, 1);
+}
+
 TEST_F(ActivationMouseMonitorTest, WhileStopped_NothingCounts) {
   monitor.setActive(true);
   monitor.setActive(false);

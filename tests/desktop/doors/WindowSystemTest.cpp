@@ -138,8 +138,11 @@ TEST_F(ManagedX11WindowSystemTest, PanelTakenAwaySoonAfterAHiding_IsLostOnce) {
   EXPECT_TRUE(waitUntil([&] { return losses == 1; }));
   panel.hide();
   showPanel();
-  ASSERT_TRUE(waitUntil([&] { return windowSystem.isOnScreen(panel); }));
+  ASSERT_TRUE(waitUntil([&] { return windows.hasFocus(native()); }));
+  // Longer than the window manager is given to make up its mind.
+  waitUntil([] { return false; }, std::chrono::milliseconds(300));
   windows.iconify(native());
+  ASSERT_TRUE(waitUntil([&] { return !windowSystem.isOnScreen(panel); }));
   EXPECT_FALSE(waitUntil([&] { return losses > 1; }, std::chrono::milliseconds(300)))
       << "though a person did it";
 }

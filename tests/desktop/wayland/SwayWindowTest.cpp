@@ -26,7 +26,7 @@ class SwayWindowTest : public SwayTest {
 
   /// Returns once the panel knows that it has the keyboard: a press before that would be too quick
   /// for any hand.
-  void settle() {
+  void waitForTheKeyboard() {
     const QRect list = requireFrame().adjusted(20, 150, -20, -60);
     const QImage before = session->picture().copy(list);
     input().type(u"dep"_s);
@@ -178,13 +178,14 @@ TEST_F(SwayWindowTest, PressOnAnotherWindow_HidesThePanel) {
   startHidden();
   pressShortcut();
   ASSERT_TRUE(becomesShown());
+  waitForTheKeyboard();
   session->click({40, 40});
   EXPECT_TRUE(becomesHidden());
 }
 
 TEST_F(SwayWindowTest, PressOnTheBareDesktop_HidesThePanel) {
   startProgram();
-  settle();
+  waitForTheKeyboard();
   session->click({5, 5});
   EXPECT_TRUE(becomesHidden());
 }

@@ -43,6 +43,10 @@ class WindowManagerRecoveryTest : public WindowManagerTest {
   /// Whether letters and Return open the command "Deploy".
   bool answersToKeys() {
     program().waitForPanel();
+    // Longer than the program waits for the window manager to make up its mind.
+    waitUntil([] { return false; }, std::chrono::milliseconds(300));
+    require(u"the panel to have the keyboard"_s,
+            [this] { return session().windows().hasFocus(program().panel()); });
     program().settle();
     input().type(u"dep"_s);
     input().tap(XK_Return);

@@ -8,6 +8,8 @@
 
 namespace lanternix {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Q_LOGGING_CATEGORY(keyboardLog, "lanternix.keyboard", QtWarningMsg)
@@ -15,8 +17,7 @@ Q_LOGGING_CATEGORY(keyboardLog, "lanternix.keyboard", QtWarningMsg)
 }  // namespace
 
 void setKeyboardCaptured(QWindow &window, bool captured) {
-  const auto *x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-  if (x11 == nullptr) {
+  if (QGuiApplication::platformName() != "xcb"_L1) {
     return;  // others would only complain that they cannot
   }
   if (!window.setKeyboardGrabEnabled(captured) && captured) {
@@ -24,7 +25,7 @@ void setKeyboardCaptured(QWindow &window, bool captured) {
                         << "recorded";
   }
   // Qt's requests wait for the next one that needs an answer, which may be long in coming.
-  xcb_flush(x11->connection());
+  xcb_flush(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection());
 }
 
 }  // namespace lanternix

@@ -26,6 +26,7 @@ bool MenuTest::menuCloses() {
 void MenuTest::openMenuOf(int index) {
   input().click(onPanel(row(index).center()), 3);
   require(u"the menu"_s, [this] { return menus().size() == 1; });
+  program().settle();  // it takes the pointer only after it is there
 }
 
 void MenuTest::choose(int entry) {

@@ -139,12 +139,18 @@ void X11WindowSystem::restore(QWindow &panel) {
   if (managedState(window) != normalState) {
     m_hasBeenLost = true;
     Q_EMIT panelLost();
-  } else if (!hasFocus(window) && modalWindow() == nullptr) {
+  } else if (!hasFocus(window) && modalWindow() == nullptr && !hasUserActedSince()) {
     m_hasBeenLost = true;
     activate(panel);
   } else if (m_hasBeenLost) {
     m_panelWatch.stop();
   }
+}
+
+/// Since the panel was to have the keyboard, as by a press in another window.
+bool X11WindowSystem::hasUserActedSince() const {
+  const quint32 recent = m_eventTime.recent();
+  return recent != 0 && recent != m_panelTime;
 }
 
 bool X11WindowSystem::isOnScreen(const QWindow &window) const {
@@ -180,6 +186,7 @@ void X11WindowSystem::askForActivation(xcb_window_t window) {
   const quint32 time = userTime();
   setUserTime(window, time);
   if (window == m_panel) {
+    m_panelTime = time;
     addMarks(window);
   }
   sendToWindowManager(window, X11Atoms::netActiveWindow, {sourcePager, time});

@@ -42,6 +42,7 @@ class X11WindowSystem : public QtWindowSystem {
   bool isManaged(xcb_window_t window) const;
   bool isViewable(xcb_window_t window) const;
   bool hasFocus(xcb_window_t window) const;
+  bool hasUserActedSince() const;
   void restore(QWindow &panel);
   void setMarks(xcb_window_t window);
   void raiseAndFocus(xcb_window_t window);
@@ -66,6 +67,8 @@ class X11WindowSystem : public QtWindowSystem {
   bool m_hasBeenLost = false;
   /// The window prepared last.
   xcb_window_t m_panel = XCB_WINDOW_NONE;
+  /// Of the action for which it was last to have the keyboard.
+  quint32 m_panelTime = 0;
 };
 
 }  // namespace lanternix

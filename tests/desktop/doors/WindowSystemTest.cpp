@@ -147,6 +147,19 @@ TEST_F(ManagedX11WindowSystemTest, PanelTakenAwaySoonAfterAHiding_IsLostOnce) {
       << "though a person did it";
 }
 
+TEST_F(ManagedX11WindowSystemTest, KeyboardThatTheUserTakesElsewhereRightAfterAShow_StaysThere) {
+  OtherClient other(testDisplay().name());
+  other.show();
+  showPanel();
+  hidePanel();
+  showPanel();
+  ASSERT_TRUE(waitUntil([&] { return windows.hasFocus(native()); }));
+  eventTime.note(XConnection(testDisplay().name()).time());  // of a press
+  other.takeFocus();
+  // Longer than the window manager is given to make up its mind.
+  EXPECT_FALSE(waitUntil([&] { return !other.hasFocus(); }, std::chrono::milliseconds(300)));
+}
+
 TEST_F(ManagedX11WindowSystemTest, PanelShownAgain_IsStillMarkedAsPanel) {
   showPanel();
   ASSERT_TRUE(waitUntil([&] { return isMarkedAsPanel(); }));

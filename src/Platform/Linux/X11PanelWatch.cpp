@@ -19,10 +19,7 @@ void X11PanelWatch::noteHiding() {
 }
 
 void X11PanelWatch::noteShow(QWindow &panel) {
-  if (m_panel != &panel) {
-    m_panel = &panel;
-    m_end.setRemainingTime(2s);
-  }
+  m_panel = &panel;
   m_pause.stop();
 }
 

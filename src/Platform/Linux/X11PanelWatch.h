@@ -23,7 +23,7 @@ class X11PanelWatch : public QObject, public QAbstractNativeEventFilter {
 
   /// Call before the panel is hidden: for two seconds its window manager may meet that late.
   void noteHiding();
-  /// Call before \p panel is shown. The first show is watched for two seconds too.
+  /// Call before \p panel is shown.
   void noteShow(QWindow &panel);
   /// Nothing more to watch for, until the panel is hidden again.
   void stop();

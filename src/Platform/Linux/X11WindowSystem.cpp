@@ -3,7 +3,6 @@
 #include "Platform/ActivationToken.h"
 #include "Platform/Linux/X11EventTime.h"
 #include "Platform/Linux/X11KeyboardHold.h"
-#include "Platform/ModalWindow.h"
 
 #include <QtCore/QDeadlineTimer>
 #include <QtGui/QGuiApplication>
@@ -139,7 +138,7 @@ void X11WindowSystem::restore(QWindow &panel) {
   if (managedState(window) != normalState) {
     m_hasBeenLost = true;
     Q_EMIT panelLost();
-  } else if (!hasFocus(window) && modalWindow() == nullptr && !hasUserActedSince()) {
+  } else if (!hasProgramFocus() && !hasUserActedSince()) {
     m_hasBeenLost = true;
     activate(panel);
   } else if (m_hasBeenLost) {
@@ -252,10 +251,12 @@ bool X11WindowSystem::isManaged(xcb_window_t window) const {
 }
 
 /// As the server tells it: Qt hears of it only later.
-bool X11WindowSystem::hasFocus(xcb_window_t window) const {
+bool X11WindowSystem::hasProgramFocus() const {
   const auto reply =
       awaitReply(xcb_get_input_focus_reply, m_server, xcb_get_input_focus(m_server.connection()));
-  return reply && reply->focus == window;
+  return reply && std::ranges::any_of(QGuiApplication::topLevelWindows(), [&](QWindow *window) {
+           return window->handle() != nullptr && nativeWindow(*window) == reply->focus;
+         });
 }
 
 bool X11WindowSystem::isViewable(xcb_window_t window) const {

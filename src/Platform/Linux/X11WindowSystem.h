@@ -41,7 +41,7 @@ class X11WindowSystem : public QtWindowSystem {
   quint32 managedState(xcb_window_t window) const;
   bool isManaged(xcb_window_t window) const;
   bool isViewable(xcb_window_t window) const;
-  bool hasFocus(xcb_window_t window) const;
+  bool hasProgramFocus() const;
   bool hasUserActedSince() const;
   void restore(QWindow &panel);
   void setMarks(xcb_window_t window);

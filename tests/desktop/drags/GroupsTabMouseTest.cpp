@@ -58,7 +58,7 @@ class GroupsTabMouseTest : public GroupsTabTest {
   static void byHand(const std::function<void(InputDriver &)> &movements) {
     std::atomic<bool> done = false;
     std::thread hand([&] {
-      InputDriver input(testDisplayName());
+      InputDriver input(testDisplayName(), &testWindowManager());
       movements(input);
       done = true;
     });

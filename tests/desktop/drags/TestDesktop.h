@@ -4,7 +4,10 @@
 
 namespace lanternix {
 
-/// The name of the display that the tests of this program run on.
+class WindowManager;
+
+/// The name of the display that the tests of this program run on, and its window manager.
 QString testDisplayName();
+const WindowManager &testWindowManager();
 
 }  // namespace lanternix

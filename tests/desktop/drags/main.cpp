@@ -30,6 +30,10 @@ QString testDisplayName() {
   return display->name();
 }
 
+const WindowManager &testWindowManager() {
+  return *windowManager;
+}
+
 }  // namespace lanternix
 
 int main(int argc, char **argv) {

@@ -17,9 +17,6 @@ namespace {
 constexpr quint32 sourcePager = 2;  // an action of the user, not a wish of the program
 constexpr quint32 everyDesktop = 0xFFFFFFFF;
 constexpr quint8 bitsPerItem = 32;
-// The states of a window as its window manager keeps them.
-constexpr quint32 withdrawnState = 0;
-constexpr quint32 normalState = 1;
 
 xcb_window_t nativeWindow(const QWindow &window) {
   return static_cast<xcb_window_t>(window.winId());
@@ -95,7 +92,7 @@ void X11WindowSystem::noteRequest(const ActivationToken &token) {
 void X11WindowSystem::preparePanel(QWindow &window) {
   const xcb_window_t panel = nativeWindow(window);
   // A window manager that has not yet carried out the last hiding would wipe what is written now.
-  comesTrue([&] { return !isManaged(panel); });
+  comesTrue([&] { return !m_windowManager.isManaging(panel); });
   m_panel = panel;
   m_panelWatch.noteShow(window);
   setMarks(panel);
@@ -125,17 +122,19 @@ void X11WindowSystem::prepareHiding(QWindow &window) {
   m_panelWatch.noteHiding();
   m_hasBeenLost = false;
   const xcb_window_t panel = nativeWindow(window);
-  comesTrue([&] { return isViewable(panel) && (isManaged(panel) || !hasWindowManager()); });
+  comesTrue([&] {
+    return isViewable(panel) && (m_windowManager.isManaging(panel) || !m_windowManager.isRunning());
+  });
   m_startupNotification.end();
 }
 
 /// Until the panel is as it should be: a person who takes it away once more means it.
 void X11WindowSystem::restore(QWindow &panel) {
-  if (!hasWindowManager()) {
+  if (!m_windowManager.isRunning()) {
     return;
   }
   const xcb_window_t window = nativeWindow(panel);
-  if (managedState(window) != normalState) {
+  if (m_windowManager.stateOf(window) != X11WindowManager::State::normal) {
     m_hasBeenLost = true;
     Q_EMIT panelLost();
   } else if (!hasProgramFocus() && !hasUserActedSince()) {
@@ -154,13 +153,15 @@ bool X11WindowSystem::hasUserActedSince() const {
 
 bool X11WindowSystem::isOnScreen(const QWindow &window) const {
   const xcb_window_t native = nativeWindow(window);
-  return isViewable(native) && (managedState(native) == normalState || !hasWindowManager());
+  return isViewable(native) &&
+         (m_windowManager.stateOf(native) == X11WindowManager::State::normal ||
+          !m_windowManager.isRunning());
 }
 
 void X11WindowSystem::activate(QWindow &window) {
   m_keyboardHold.passTo(window);
   const xcb_window_t native = nativeWindow(window);
-  if (hasWindowManager()) {
+  if (m_windowManager.isRunning()) {
     askForActivation(native);
   } else {
     raiseAndFocus(native);
@@ -188,7 +189,7 @@ void X11WindowSystem::askForActivation(xcb_window_t window) {
     m_panelTime = time;
     addMarks(window);
   }
-  sendToWindowManager(window, X11Atoms::netActiveWindow, {sourcePager, time});
+  m_windowManager.send(window, X11Atoms::netActiveWindow, {sourcePager, time});
 }
 
 void X11WindowSystem::setFrame(QWindow &window, const Frame &frame) {
@@ -201,20 +202,9 @@ void X11WindowSystem::setFrame(QWindow &window, const Frame &frame) {
                                     pixels(frame.shadow.right()), pixels(frame.shadow.bottom())}});
 }
 
-std::optional<xcb_window_t> X11WindowSystem::windowProperty(xcb_window_t window,
-                                                            X11Atoms::Name property) const {
-  const auto reply = awaitReply(
-      xcb_get_property_reply, m_server,
-      xcb_get_property(m_server.connection(), 0, window, m_atoms[property], XCB_ATOM_WINDOW, 0, 1));
-  if (!reply || reply->format != bitsPerItem || reply->value_len != 1) {
-    return std::nullopt;
-  }
-  return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
-}
-
 /// In the server's pixels. None without an active window, or when it has just gone.
 std::optional<QPoint> X11WindowSystem::activeWindowCentre() const {
-  const auto active = windowProperty(m_server.root(), X11Atoms::netActiveWindow);
+  const auto active = m_windowManager.windowProperty(m_server.root(), X11Atoms::netActiveWindow);
   if (!active || *active == XCB_WINDOW_NONE || *active == m_panel) {
     return std::nullopt;  // the panel tells nothing of where the user works
   }
@@ -227,27 +217,6 @@ std::optional<QPoint> X11WindowSystem::activeWindowCentre() const {
     return std::nullopt;
   }
   return QPoint(origin->dst_x + geometry->width / 2, origin->dst_y + geometry->height / 2);
-}
-
-/// A window manager keeps a window that names itself, which tells it from one that has died.
-bool X11WindowSystem::hasWindowManager() const {
-  const auto check = windowProperty(m_server.root(), X11Atoms::netSupportingWmCheck);
-  return check && windowProperty(*check, X11Atoms::netSupportingWmCheck) == check;
-}
-
-/// As the window manager tells it.
-quint32 X11WindowSystem::managedState(xcb_window_t window) const {
-  const auto reply =
-      awaitReply(xcb_get_property_reply, m_server,
-                 xcb_get_property(m_server.connection(), 0, window, m_atoms[X11Atoms::wmState],
-                                  m_atoms[X11Atoms::wmState], 0, 1));
-  const bool isTold = reply && reply->format == bitsPerItem && reply->value_len == 1;
-  return isTold ? *static_cast<const quint32 *>(xcb_get_property_value(reply.get()))
-                : withdrawnState;
-}
-
-bool X11WindowSystem::isManaged(xcb_window_t window) const {
-  return managedState(window) != withdrawnState;
 }
 
 /// As the server tells it: Qt hears of it only later.
@@ -287,7 +256,7 @@ const X11ServerTime &X11WindowSystem::serverTime() {
 void X11WindowSystem::setUserTime(xcb_window_t window, quint32 time) {
   if (time != 0) {  // which would say that the window does not want the keyboard
     const xcb_window_t keeper =
-        windowProperty(window, X11Atoms::netWmUserTimeWindow).value_or(window);
+        m_windowManager.windowProperty(window, X11Atoms::netWmUserTimeWindow).value_or(window);
     xcb_change_property(m_server.connection(), XCB_PROP_MODE_REPLACE, keeper,
                         m_atoms[X11Atoms::netWmUserTime], XCB_ATOM_CARDINAL, bitsPerItem, 1, &time);
   }
@@ -298,26 +267,13 @@ void X11WindowSystem::setUserTime(xcb_window_t window, quint32 time) {
 /// before it has carried out the last hiding.
 void X11WindowSystem::addMarks(xcb_window_t window) {
   constexpr quint32 add = 1;
-  sendToWindowManager(
+  m_windowManager.send(
       window, X11Atoms::netWmState,
       {add, m_atoms[X11Atoms::netWmStateAbove], m_atoms[X11Atoms::netWmStateSticky], sourcePager});
-  sendToWindowManager(window, X11Atoms::netWmState,
-                      {add, m_atoms[X11Atoms::netWmStateSkipTaskbar],
-                       m_atoms[X11Atoms::netWmStateSkipPager], sourcePager});
-  sendToWindowManager(window, X11Atoms::netWmDesktop, {everyDesktop, sourcePager});
-}
-
-void X11WindowSystem::sendToWindowManager(xcb_window_t window, X11Atoms::Name type,
-                                          const std::array<quint32, 5> &data) {
-  xcb_client_message_event_t message{};
-  message.response_type = XCB_CLIENT_MESSAGE;
-  message.format = bitsPerItem;
-  message.window = window;
-  message.type = m_atoms[type];
-  std::ranges::copy(data, message.data.data32);
-  xcb_send_event(m_server.connection(), 0, m_server.root(),
-                 XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
-                 reinterpret_cast<const char *>(&message));
+  m_windowManager.send(window, X11Atoms::netWmState,
+                       {add, m_atoms[X11Atoms::netWmStateSkipTaskbar],
+                        m_atoms[X11Atoms::netWmStateSkipPager], sourcePager});
+  m_windowManager.send(window, X11Atoms::netWmDesktop, {everyDesktop, sourcePager});
 }
 
 }  // namespace lanternix

@@ -6,6 +6,7 @@
 #include "Platform/Linux/X11PanelWatch.h"
 #include "Platform/Linux/X11ServerTime.h"
 #include "Platform/Linux/X11StartupNotification.h"
+#include "Platform/Linux/X11WindowManager.h"
 
 #include <QtCore/QRect>
 
@@ -35,11 +36,7 @@ class X11WindowSystem : public QtWindowSystem {
   void setFrame(QWindow &window, const Frame &frame) override;
 
  private:
-  std::optional<xcb_window_t> windowProperty(xcb_window_t window, X11Atoms::Name property) const;
   std::optional<QPoint> activeWindowCentre() const;
-  bool hasWindowManager() const;
-  quint32 managedState(xcb_window_t window) const;
-  bool isManaged(xcb_window_t window) const;
   bool isViewable(xcb_window_t window) const;
   bool hasProgramFocus() const;
   bool hasUserActedSince() const;
@@ -51,15 +48,14 @@ class X11WindowSystem : public QtWindowSystem {
   const X11ServerTime &serverTime();
   void setUserTime(xcb_window_t window, quint32 time);
   void addMarks(xcb_window_t window);
-  void sendToWindowManager(xcb_window_t window, X11Atoms::Name type,
-                           const std::array<quint32, 5> &data);
 
   const X11Server &m_server;
   X11EventTime &m_eventTime;
   X11KeyboardHold &m_keyboardHold;
   /// Made when the program has started, or when it is needed before.
   std::optional<X11ServerTime> m_serverTime;
-  mutable X11Atoms m_atoms;
+  X11Atoms m_atoms;
+  const X11WindowManager m_windowManager{m_server, m_atoms};
   X11StartupNotification m_startupNotification{m_server, m_atoms};
   X11Compositor m_compositor;
   X11PanelWatch m_panelWatch{m_atoms};

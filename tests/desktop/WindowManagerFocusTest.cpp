@@ -11,13 +11,6 @@ using namespace Qt::StringLiterals;
 
 class WindowManagerFocusTest : public WindowManagerTest {
  protected:
-  /// Types into \p client until it has got every key, so that it is the one the user works with.
-  void workIn(OtherClient &client) {
-    client.takeFocus();
-    input().type(u"make"_s);
-    require(u"the other program's keys"_s, [&] { return client.keys().size() == 4; });
-  }
-
   /// What of the search and of the shortcut has reached \p client after all.
   static QList<xcb_keysym_t> letters(OtherClient &client) {
     QList<xcb_keysym_t> keys = client.keys().sliced(4);

@@ -12,12 +12,6 @@ using namespace Qt::StringLiterals;
 /// A panel that is gone from the screen though the program has not hidden it.
 class WindowManagerRecoveryTest : public WindowManagerTest {
  protected:
-  void workIn(OtherClient &client) {
-    client.takeFocus();
-    input().type(u"x"_s);
-    require(u"the other program's key"_s, [&] { return client.keys().contains(XK_x); });
-  }
-
   /// Shows, hides and shows the panel while the window manager does nothing.
   void toggleUnderABusyWindowManager() {
     manager().settle();

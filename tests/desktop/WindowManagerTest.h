@@ -26,6 +26,13 @@ class WindowManagerTest : public CompositedTest {
   /// Whether the environment asks for one window manager, as for the table of all of them.
   static bool isForTheTable() { return qEnvironmentVariableIsSet("LANTERNIX_WINDOW_MANAGER"); }
 
+  /// Types into \p client until it has got every key, so that it is the one the user works with.
+  void workIn(OtherClient &client) {
+    client.takeFocus();
+    input().type(QStringLiteral("make"));
+    require(QStringLiteral("the other program's keys"), [&] { return client.keys().size() == 4; });
+  }
+
   /// Holds Alt for that many taps on Tab, each of which the window manager is ready for; but see
   /// countsSteps(). A first tap that has no effect is done again.
   void switchBy(int steps) {

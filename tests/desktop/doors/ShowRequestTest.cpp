@@ -37,6 +37,23 @@ TEST_F(ShowRequestTest, PanelShownForARequestWithoutATime_IsShownAsOfNow) {
   EXPECT_TRUE(waitUntil([&] { return userTime() >= before; }));
 }
 
+// As the settings are by the keyboard, soon after the shortcut. Of the two times only the key's is
+// as late as what Qt has told the window manager already.
+TEST_F(ShowRequestTest, WindowShownForAKeyTypedIntoThePanel_IsShownAsOfThat) {
+  const quint32 before = XConnection(testDisplay().name()).time();
+  eventTime.note(before - 1);  // of the shortcut
+  showPanel();
+  ASSERT_TRUE(waitUntil([&] { return panel.isActive(); }));
+  input.type(u"x"_s);
+  ASSERT_TRUE(waitUntil([&] { return panel.typed == u"x"_s; }));
+  PanelLikeWindow settings;
+  settings.show();
+  windowSystem.activate(settings);
+  const auto native = static_cast<xcb_window_t>(settings.winId());
+  EXPECT_TRUE(waitUntil([&] { return windows.hasFocus(native); }));
+  EXPECT_GE(windows.connection().number(native, "_NET_WM_USER_TIME"), before);
+}
+
 TEST_F(ShowRequestTest, PanelWhoseTimeIsKeptOnAnotherWindow_HasItThere) {
   const XConnection connection(testDisplay().name());
   const OtherClient keeper(testDisplay().name());

@@ -24,13 +24,18 @@ class SwayWindowTest : public SwayTest {
     return frame();
   }
 
-  /// Returns once the panel knows that it has the keyboard: a press before that would be too quick
-  /// for any hand.
+  /// What is seen where the panel has its first items.
+  QImage middle() const {
+    constexpr QPoint reach(150, 150);
+    return session->picture().copy(QRect(middleOfTheScreen() - reach, middleOfTheScreen() + reach));
+  }
+
+  /// Returns once the panel, which is seen, knows that it has the keyboard: a press before that
+  /// would be too quick for any hand.
   void waitForTheKeyboard() {
-    const QRect list = requireFrame().adjusted(20, 150, -20, -60);
-    const QImage before = session->picture().copy(list);
+    const QImage before = middle();
     input().type(u"dep"_s);
-    require(u"the found item"_s, [&] { return session->picture().copy(list) != before; });
+    require(u"the found item"_s, [&] { return middle() != before; });
   }
 
   /// Whether the panel is there, give or take the step by which a drag has begun and sway's
@@ -176,8 +181,9 @@ TEST_F(SwayWindowTest, PressOnAnotherWindow_HidesThePanel) {
   OtherClient other(session->displayName());  // fills the screen, as windows do in sway
   other.show();
   startHidden();
+  const QImage before = middle();
   pressShortcut();
-  ASSERT_TRUE(becomesShown());
+  require(u"the panel over the other window"_s, [&] { return middle() != before; });
   waitForTheKeyboard();
   session->click({40, 40});
   EXPECT_TRUE(becomesHidden());
@@ -185,6 +191,7 @@ TEST_F(SwayWindowTest, PressOnAnotherWindow_HidesThePanel) {
 
 TEST_F(SwayWindowTest, PressOnTheBareDesktop_HidesThePanel) {
   startProgram();
+  requireFrame();
   waitForTheKeyboard();
   session->click({5, 5});
   EXPECT_TRUE(becomesHidden());

@@ -11,6 +11,7 @@
 
 #include <X11/keysym.h>
 #include <atomic>
+#include <exception>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -57,15 +58,23 @@ class GroupsTabMouseTest : public GroupsTabTest {
 
   static void byHand(const std::function<void(InputDriver &)> &movements) {
     std::atomic<bool> done = false;
+    std::exception_ptr failure;
     std::thread hand([&] {
-      InputDriver input(testDisplayName(), &testWindowManager());
-      movements(input);
+      try {
+        InputDriver input(testDisplayName(), &testWindowManager());
+        movements(input);
+      } catch (...) {
+        failure = std::current_exception();
+      }
       done = true;
     });
     while (!done) {
       QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
     }
     hand.join();
+    if (failure) {
+      std::rethrow_exception(failure);
+    }
   }
 
   /// Presses at \p from, moves over \p to until \p arrived, and then does \p ending.

@@ -185,7 +185,8 @@ void AppDelegate::storePanelSize() {
 // the keyboard: it lies in front of all of them and says "esc close" at its foot, so Escape takes
 // away what is in front first, and what a press does can be told by looking.
 bool AppDelegate::handleKey(const QKeyEvent &press) {
-  if (!m_panel->isVisible()) {
+  // With the keyboard it is on the screen, which need not be asked then.
+  if (!m_panel->isVisible() || (!m_panel->isActiveWindow() && m_panel->isTakenAway())) {
     return false;
   }
   const std::optional<quint32> key =

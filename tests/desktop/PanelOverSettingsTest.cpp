@@ -56,6 +56,25 @@ TEST_F(PanelOverSettingsTest, EscapeOverAQuestion_HidesThePanelAndTheNextOneAnsw
   EXPECT_EQ(storedGroups(), QStringList(u"Commands"_s));
 }
 
+TEST_F(PanelOverSettingsTest, PanelMadeAnIcon_LeavesTheirKeysToTheSettings) {
+  openBuild();
+  click(button(u"Add Group"_s));
+  const auto editor = dialog(u"New Group"_s);
+  input().type(u"Play"_s);
+  showPanelAndPress(editor);
+  // The program takes an icon that is made soon after a hiding for the window manager's mistake.
+  const auto staysAnIcon = [this] {
+    session().windows().iconify(program().panel());
+    return !waitUntil([this] { return session().windows().isInNormalState(program().panel()); },
+                      std::chrono::milliseconds(500));
+  };
+  require(u"the panel to be an icon"_s, staysAnIcon);
+  require(u"the editor to have the keyboard"_s, [&] { return isActive(editor); });
+  input().tap(XK_Return);
+  EXPECT_TRUE(becomesStored({u"Commands"_s, u"Play"_s}));
+  EXPECT_FALSE(isMarked(u"Build"_s));
+}
+
 TEST_F(PanelOverSettingsTest, Letters_AreTypedIntoTheWindowWithTheKeyboard) {
   openBuild();
   click(button(u"Add Group"_s));

@@ -81,7 +81,7 @@ bool FloatingPanel::isTakenAway() const {
 }
 
 bool FloatingPanel::isInTheUsersHand() const {
-  return m_isDragged || m_edgeResizer->isResizing() || m_resizePause.isActive();
+  return m_isDragged || m_edgeResizer->isResizing();
 }
 
 void FloatingPanel::showAnew() {
@@ -139,8 +139,7 @@ void FloatingPanel::confirmPlace() {
   if (!m_hasBeenSeen) {
     return;  // it has been given another frame meanwhile, which will be confirmed in its turn
   }
-  const bool isUnderThePointer = m_isDragged || m_edgeResizer->isResizing();
-  m_isInPlace = isUnderThePointer || windowHandle()->geometry() == m_wantedGeometry;
+  m_isInPlace = isInTheUsersHand() || windowHandle()->geometry() == m_wantedGeometry;
   m_hasHadItsSize =
       m_edgeResizer->isResizing() || windowHandle()->size() == m_wantedGeometry.size();
   if (!m_isInPlace) {

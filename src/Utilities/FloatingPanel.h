@@ -43,7 +43,7 @@ class FloatingPanel : public QWidget {
   /// it. For isVisible() it has never gone.
   bool isTakenAway() const;
 
-  /// Whether the user is moving or resizing the window right now.
+  /// Whether the user holds the background or an edge of the window with the mouse.
   bool isInTheUsersHand() const;
 
   /// Hides the window.

@@ -80,6 +80,21 @@ TEST_F(SizeTest, TaskbarThatComesUpWhereADraggedPanelIs_MovesItToItsUsualPlace) 
   EXPECT_TRUE(waitUntil([this] { return panelGeometry() == placed({700, 500}); }));
 }
 
+TEST_F(SizeTest, TaskbarThatComesUpWhileThePanelIsDragged_LeavesItInTheHand) {
+  start(commands({u"Build"_s}));
+  const QRect before = panelGeometry();
+  input().moveTo(onPanel({400, 12}));
+  input().pressButton();
+  const auto isDraggedTo = [&](QPoint distance) {
+    input().moveTo(before.topLeft() + QPoint(400, 12) + distance);
+    return waitUntil([&] { return panelGeometry() == before.translated(distance); });
+  };
+  ASSERT_TRUE(isDraggedTo({60, 80}));
+  showTaskbar(200);
+  EXPECT_EQ(panelGeometry(), before.translated(60, 80));
+  EXPECT_TRUE(isDraggedTo({70, 60}));
+}
+
 TEST_F(SizeTest, FirstStart_Is700By500AboveTheCentre) {
   start(commands({u"Build"_s}));
   EXPECT_EQ(panelGeometry(), placed({700, 500}));

@@ -10,18 +10,11 @@ X11EventTime::X11EventTime() {
   QCoreApplication::instance()->installNativeEventFilter(this);
 }
 
-void X11EventTime::note(quint32 serverTime) {
-  m_last = serverTime;
-  m_age.start();
-  m_wasTypedHere = false;
-}
-
+/// A door that holds keys of the whole display notes them after this or keeps them from it.
 bool X11EventTime::nativeEventFilter(const QByteArray & /*eventType*/, void *message,
                                      qintptr * /*result*/) {
-  const auto &event = *static_cast<const xcb_generic_event_t *>(message);
-  if (event.response_type == XCB_KEY_PRESS) {
-    note(reinterpret_cast<const xcb_key_press_event_t &>(event).time);
-    m_wasTypedHere = true;
+  if (static_cast<const xcb_generic_event_t *>(message)->response_type == XCB_KEY_PRESS) {
+    forget();
   }
   return false;
 }

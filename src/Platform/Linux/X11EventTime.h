@@ -5,9 +5,11 @@
 
 namespace lanternix {
 
-/// The server's time of the user's last action: a key typed into a window of this program, or what
-/// a door has seen elsewhere. Window managers take it as the proof that a window asks for the
-/// keyboard because of that action, and of two such proofs only count the later one.
+/// The server's time, in milliseconds, of the user's last action that a door has seen. Window
+/// managers take it as the proof that a window asks for the keyboard because of that action.
+///
+/// A key typed into a window of this program is no such action, but makes the one before it too
+/// old: Qt tells window managers of that key, and they refuse an earlier time from then on.
 class X11EventTime : public QAbstractNativeEventFilter {
  public:
   /// Once the application is there.
@@ -19,11 +21,11 @@ class X11EventTime : public QAbstractNativeEventFilter {
     constexpr qint64 longestAnswer = 1000;  // milliseconds
     return m_age.isValid() && !m_age.hasExpired(longestAnswer) ? m_last : 0;
   }
-  /// Whether the last action was a key typed into a window of this program.
-  bool wasTypedHere() const { return m_wasTypedHere; }
 
-  /// An action that need not have been meant for a window of this program.
-  void note(quint32 serverTime);
+  void note(quint32 serverTime) {
+    m_last = serverTime;
+    m_age.start();
+  }
   /// The program is about to answer something else, of which the server's time is not known.
   void forget() { m_age.invalidate(); }
 
@@ -32,7 +34,6 @@ class X11EventTime : public QAbstractNativeEventFilter {
  private:
   quint32 m_last = 0;
   QElapsedTimer m_age;
-  bool m_wasTypedHere = false;
 };
 
 }  // namespace lanternix

@@ -148,7 +148,7 @@ void X11WindowSystem::restore(QWindow &panel) {
 /// Since the panel was to have the keyboard, as by a press in another window.
 bool X11WindowSystem::hasUserActedSince() const {
   const quint32 recent = m_eventTime.recent();
-  return recent != 0 && recent != m_panelTime && !m_eventTime.wasTypedHere();
+  return recent != 0 && recent != m_panelTime;
 }
 
 bool X11WindowSystem::isOnScreen(const QWindow &window) const {

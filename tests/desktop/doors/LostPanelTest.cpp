@@ -2,12 +2,25 @@
 #include "WindowSystemTest.h"
 #include "support/OtherClient.h"
 
+#include <array>
+
 namespace lanternix {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-class LostPanelTest : public ManagedX11WindowSystemTest {};
+class LostPanelTest : public ManagedX11WindowSystemTest {
+ protected:
+  /// As a window manager does that has made up its mind about the panel.
+  void writeNormalState() {
+    const XConnection &connection = windows.connection();
+    constexpr std::array<quint32, 2> normal{1, XCB_WINDOW_NONE};
+    const xcb_atom_t state = connection.atom("WM_STATE");
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, native(), state, state, 32,
+                        normal.size(), normal.data());
+    connection.sync();
+  }
+};
 
 TEST_F(LostPanelTest, PanelMadeAnIcon_IsNotOnTheScreen) {
   showPanel();
@@ -45,8 +58,24 @@ TEST_F(LostPanelTest, KeyboardThatTheUserTakesElsewhereRightAfterAShow_StaysTher
   ASSERT_TRUE(waitUntil([&] { return windows.hasFocus(native()); }));
   eventTime.note(XConnection(testDisplay().name()).time());  // of a press
   other.takeFocus();
+  writeNormalState();
   // Longer than the window manager is given to make up its mind.
   EXPECT_FALSE(waitUntil([&] { return !other.hasFocus(); }, std::chrono::milliseconds(300)));
+}
+
+TEST_F(LostPanelTest, KeyboardThatTheWindowManagerGivesElsewhereWhileTheUserTypes_ComesBack) {
+  OtherClient other(testDisplay().name());
+  other.show();
+  showPanel();
+  hidePanel();
+  eventTime.note(XConnection(testDisplay().name()).time());  // of the shortcut
+  showPanel();
+  ASSERT_TRUE(waitUntil([&] { return panel.isActive(); }));
+  input.type(u"x"_s);
+  ASSERT_TRUE(waitUntil([&] { return panel.typed == u"x"_s; }));
+  other.takeFocus();
+  writeNormalState();
+  EXPECT_TRUE(waitUntil([&] { return windows.hasFocus(native()); }));
 }
 
 }  // namespace

@@ -13,6 +13,8 @@ class ShowRequestTest : public ManagedX11WindowSystemTest {
   quint32 userTime() const { return windows.connection().number(native(), "_NET_WM_USER_TIME"); }
 };
 
+class StartupRequestTest : public X11WindowSystemTest {};
+
 TEST_F(ShowRequestTest, PanelShownWithoutAnAction_IsShownAsOfNow) {
   const XConnection connection(testDisplay().name());
   const quint32 before = connection.time();
@@ -66,7 +68,7 @@ TEST_F(ShowRequestTest, PanelWhoseTimeIsKeptOnAnotherWindow_HasItThere) {
   EXPECT_TRUE(waitUntil([&] { return connection.number(window, "_NET_WM_USER_TIME") == time; }));
 }
 
-TEST_F(ShowRequestTest, RequestWithAStartupId_EndsTheWaitOnceItIsAnswered) {
+TEST_F(StartupRequestTest, RequestWithAStartupId_EndsTheWaitOnceItIsAnswered) {
   StartupListener startups(testDisplay().name());
   windowSystem.noteRequest(
       {.token = {}, .startupId = u"a \\ and \"quotes\" in a long name_TIME5"_s});
@@ -80,7 +82,7 @@ TEST_F(ShowRequestTest, RequestWithAStartupId_EndsTheWaitOnceItIsAnswered) {
   EXPECT_EQ(startups.texts(), ended);
 }
 
-TEST_F(ShowRequestTest, RequestBeforeTheLastOneIsAnswered_EndsTheWaitForThatOne) {
+TEST_F(StartupRequestTest, RequestBeforeTheLastOneIsAnswered_EndsTheWaitForThatOne) {
   StartupListener startups(testDisplay().name());
   windowSystem.noteRequest({.token = {}, .startupId = u"one_TIME5"_s});
   windowSystem.noteRequest({});
@@ -88,7 +90,7 @@ TEST_F(ShowRequestTest, RequestBeforeTheLastOneIsAnswered_EndsTheWaitForThatOne)
       waitUntil([&] { return startups.texts() == QStringList{u"remove: ID=\"one_TIME5\""_s}; }));
 }
 
-TEST_F(ShowRequestTest, TimeOfARequest_IsTheEndOfItsStartupId) {
+TEST_F(StartupRequestTest, TimeOfARequest_IsTheEndOfItsStartupId) {
   const QList<std::pair<QString, quint32>> times{
       {u"shell/menu-4-host_TIME4294967295"_s, 4294967295},
       {u"_TIME1_TIME2"_s, 2},

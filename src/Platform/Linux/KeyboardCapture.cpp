@@ -21,8 +21,8 @@ void setKeyboardCaptured(QWindow &window, bool captured) {
     return;  // others would only complain that they cannot
   }
   if (!window.setKeyboardGrabEnabled(captured) && captured) {
-    qCInfo(keyboardLog) << "Another program has the keyboard for itself: its keys cannot be"
-                        << "recorded";
+    qCInfo(keyboardLog) << "The keyboard cannot be captured: shortcuts that other programs hold"
+                        << "cannot be recorded";
   }
   // Qt's requests wait for the next one that needs an answer, which may be long in coming.
   xcb_flush(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection());

@@ -21,7 +21,7 @@ class X11WindowManager {
   /// Both outlive this object.
   X11WindowManager(const X11Server &server, X11Atoms &atoms) : m_server(server), m_atoms(atoms) {}
 
-  /// Whether there is one, which a dead one's traces do not count for.
+  /// Whether there is one. What a dead one has left behind does not count.
   bool isRunning() const;
   /// What it makes of \p window.
   State stateOf(xcb_window_t window) const;
@@ -30,8 +30,8 @@ class X11WindowManager {
   /// The window that \p property of \p window names; none when it names none, or \p window is gone.
   std::optional<xcb_window_t> windowProperty(xcb_window_t window, X11Atoms::Name property) const;
 
-  /// Asks for \p type about \p window, which each type gives \p data of its own. Whether it is
-  /// granted shows itself later, if at all.
+  /// Sends the request \p type about \p window; what \p data says depends on the type. Whether it
+  /// is granted shows itself later, if at all.
   void send(xcb_window_t window, X11Atoms::Name type, const std::array<quint32, 5> &data) const;
 
  private:

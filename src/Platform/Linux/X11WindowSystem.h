@@ -59,7 +59,7 @@ class X11WindowSystem : public QtWindowSystem {
   X11StartupNotification m_startupNotification{m_server, m_atoms};
   X11Compositor m_compositor;
   X11PanelWatch m_panelWatch{m_atoms};
-  /// Since it was last hidden.
+  /// The panel, or its keyboard, since it was last hidden.
   bool m_hasBeenLost = false;
   /// The window prepared last.
   xcb_window_t m_panel = XCB_WINDOW_NONE;

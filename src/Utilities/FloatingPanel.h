@@ -43,7 +43,8 @@ class FloatingPanel : public QWidget {
   /// it. For isVisible() it has never gone.
   bool isTakenAway() const;
 
-  /// Whether the user holds the background or an edge of the window with the mouse.
+  /// Whether the user holds the background or an edge of the window with the mouse. False for a
+  /// drag that the window system carries out itself (WindowSystem::takeDrag).
   bool isInTheUsersHand() const;
 
   /// Hides the window.

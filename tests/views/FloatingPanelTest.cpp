@@ -175,6 +175,14 @@ TEST_F(FloatingPanelTest, ResizedByMeansOfTheWindowManager_SaysSoOnceForEachSize
   EXPECT_EQ(resized.count(), 2);
 }
 
+// A taskbar that has made it smaller is answered with its own size, at another place.
+TEST_F(FloatingPanelTest, ResizedByMeansOfTheWindowManager_IsNotInTheUsersHand) {
+  QCoreApplication::processEvents();
+  panel.windowHandle()->resize(560, 420);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(panel.isInTheUsersHand());
+}
+
 TEST_F(FloatingPanelTest, HiddenRightAfterAResizeByTheWindowManager_SaysSoBefore) {
   const QSignalSpy resized(&panel, &FloatingPanel::didEndLiveResize);
   QCoreApplication::processEvents();

@@ -26,7 +26,7 @@ class X11EventTime : public QAbstractNativeEventFilter {
     m_last = serverTime;
     m_age.start();
   }
-  /// The program is about to answer something else, of which the server's time is not known.
+  /// What the program answers from now on has no time that was noted.
   void forget() { m_age.invalidate(); }
 
   bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;

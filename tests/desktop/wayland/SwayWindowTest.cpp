@@ -183,6 +183,7 @@ TEST_F(SwayWindowTest, PressOnAnotherWindow_HidesThePanel) {
   startHidden();
   const QImage before = middle();
   pressShortcut();
+  ASSERT_TRUE(becomesShown());
   require(u"the panel over the other window"_s, [&] { return middle() != before; });
   waitForTheKeyboard();
   session->click({40, 40});

@@ -1,4 +1,5 @@
 #include "desktop/WindowManagerTest.h"
+#include "support/DesktopShell.h"
 
 #include <X11/keysym.h>
 
@@ -42,11 +43,17 @@ TEST_F(WindowManagerListsTest, PanelShownAgain_IsInNoTaskbarAndNoPager) {
 
 TEST_F(WindowManagerListsTest, PanelHiddenAndShownAtOnce_IsInNoTaskbarAndNoPager) {
   start(commands({u"Build"_s}));
-  pressShortcut();
-  pressShortcut();
+  // Not by keys, which the server throws away while the window manager gives the keyboard to
+  // nobody.
+  DesktopShell shell(session().bus()->address());
+  for (int toggle = 0; toggle < 2; ++toggle) {
+    EXPECT_EQ(shell.activateAction(u"toggle"_s), QString());
+  }
+  program().settle();  // or it may be the panel before its hiding that is looked at
+  manager().settle();
   program().waitForPanel();
+  EXPECT_TRUE(waitUntil([this] { return session().windows().desktop(program().panel()) == ~0U; }));
   EXPECT_THAT(panelStates(), IsSupersetOf(expectedStates()));
-  EXPECT_EQ(session().windows().desktop(program().panel()), 0xFFFFFFFFU);
 }
 
 TEST_F(WindowManagerListsTest, AltTab_PassesThePanelOver) {
